@@ -1,0 +1,92 @@
+// The bridge's share of the Game record: the ship on the map and the view,
+// the officer pages and their buttons, power, and the helm's flags.
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+#include "shell/numeric.h"
+#include "shell/table.h"
+
+namespace lf {
+
+struct BridgeButtonRecord {
+  double Frame = 0;
+  double FrameStep = 0;
+  std::int16_t X = 0, Y = 0;
+  std::int16_t Width = 0, Height = 0;
+  std::int16_t FrameCount = 0;
+  Flag Present = False;
+  Flag Visible = False;
+  std::int16_t State = 0;
+  std::string Label;
+};
+template <class V>
+void VisitFields(V& v, BridgeButtonRecord& r) {
+  v("Frame", r.Frame); v("FrameStep", r.FrameStep); v("X", r.X); v("Y", r.Y);
+  v("Width", r.Width); v("Height", r.Height); v("FrameCount", r.FrameCount);
+  v("Present", r.Present); v("Visible", r.Visible); v("State", r.State); v("Label", r.Label);
+}
+
+struct BridgeState {
+  // Ship, destination and view on the map.
+  double ShipX = 0, ShipY = 0;
+  double ShipStepX = 0, ShipStepY = 0;
+  double DestX = 0, DestY = 0;
+  double ViewX = 0;
+  std::int16_t ViewY = 0;
+  Flag ViewDetached = False;
+  std::int16_t ScrollDelay = 0;
+  Flag ShowGrid = False;
+  Flag ShowSensorRange = False;
+  Flag InNebula = False;
+  Flag InAsteroids = False;
+
+  // Officer pages: BridgeButton[page 1..6][button 1..15].
+  Table<Table<BridgeButtonRecord, 15>, 6> BridgeButton{};
+  Table<std::int16_t, 6> PageOpen{};
+
+  // Power: levels and settings 0..200 of the five systems.
+  double WeaponLevel = 0, WeaponSetting = 0;
+  double ShieldLevel = 0, ShieldSetting = 0;
+  double PropulsionLevel = 0, PropulsionSetting = 0;
+  double SensorLevel = 0, SensorSetting = 0;
+  double LifeSupportLevel = 0, LifeSupportSetting = 0;
+  double SparePower = 0;
+
+  // Helm, maintenance, hails and science.
+  Flag HasLander = False;
+  Flag TradeOpen = False;
+  std::int16_t RepairPool = 0;
+  Flag ScanRequested = False;
+  Table<std::int16_t, 7> RaceRelation{};
+};
+
+template <class V>
+void VisitFields(V& v, BridgeState& s) {
+  v("ShipX", s.ShipX); v("ShipY", s.ShipY);
+  v("ShipStepX", s.ShipStepX); v("ShipStepY", s.ShipStepY);
+  v("DestX", s.DestX); v("DestY", s.DestY);
+  v("ViewX", s.ViewX); v("ViewY", s.ViewY);
+  v("ViewDetached", s.ViewDetached);
+  v("ScrollDelay", s.ScrollDelay);
+  v("ShowGrid", s.ShowGrid);
+  v("ShowSensorRange", s.ShowSensorRange);
+  v("InNebula", s.InNebula);
+  v("InAsteroids", s.InAsteroids);
+  v("BridgeButton", s.BridgeButton);
+  v("PageOpen", s.PageOpen);
+  v("WeaponLevel", s.WeaponLevel); v("WeaponSetting", s.WeaponSetting);
+  v("ShieldLevel", s.ShieldLevel); v("ShieldSetting", s.ShieldSetting);
+  v("PropulsionLevel", s.PropulsionLevel); v("PropulsionSetting", s.PropulsionSetting);
+  v("SensorLevel", s.SensorLevel); v("SensorSetting", s.SensorSetting);
+  v("LifeSupportLevel", s.LifeSupportLevel); v("LifeSupportSetting", s.LifeSupportSetting);
+  v("SparePower", s.SparePower);
+  v("HasLander", s.HasLander);
+  v("TradeOpen", s.TradeOpen);
+  v("RepairPool", s.RepairPool);
+  v("ScanRequested", s.ScanRequested);
+  v("RaceRelation", s.RaceRelation);
+}
+
+}  // namespace lf

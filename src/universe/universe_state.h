@@ -1,0 +1,146 @@
+// The universe's share of the Game record: the current quadrant's tables,
+// the other ships, the characters and crew posts, and the player's fit.
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+#include "shell/numeric.h"
+#include "shell/table.h"
+
+namespace lf {
+
+struct PlanetRecord {
+  double X = 0, Y = 0;
+  std::string Name;
+  std::int16_t Race = 0;
+  std::int16_t Type = 0;
+  std::int16_t Size = 0;
+  Flag SmallBody = False;
+  double HasStation = 0;
+  std::int16_t Society = 0;
+  std::int16_t Ore = 0;
+  std::int16_t LanderVisits = 0;
+  Flag Infected = False;
+  Flag Epidemic = False;
+  Flag Marker = False;
+  Flag Known = False;
+  double Picture = 0;
+  double Frame = 0;
+  double Width = 0, Height = 0;
+  double FramesPerRow = 0, LastFrame = 0, FrameStep = 0;
+};
+template <class V>
+void VisitFields(V& v, PlanetRecord& r) {
+  v("X", r.X); v("Y", r.Y); v("Name", r.Name); v("Race", r.Race); v("Type", r.Type);
+  v("Size", r.Size); v("SmallBody", r.SmallBody); v("HasStation", r.HasStation);
+  v("Society", r.Society); v("Ore", r.Ore); v("LanderVisits", r.LanderVisits);
+  v("Infected", r.Infected); v("Epidemic", r.Epidemic); v("Marker", r.Marker);
+  v("Known", r.Known); v("Picture", r.Picture); v("Frame", r.Frame); v("Width", r.Width);
+  v("Height", r.Height); v("FramesPerRow", r.FramesPerRow); v("LastFrame", r.LastFrame);
+  v("FrameStep", r.FrameStep);
+}
+
+struct OtherShipRecord {
+  std::int16_t ShipClass = 0;
+  double X = 0, Y = 0;
+  std::int16_t TargetX = 0, TargetY = 0;
+  std::int16_t HomeX = 0, HomeY = 0;
+  double StepX = 0, StepY = 0;
+  Flag WantsTrade = False;
+  Flag Free = False;
+  Flag Identified = False;
+  Flag Greeted = False, InfoGiven = False, AssistGiven = False, TradeInfoGiven = False;
+};
+template <class V>
+void VisitFields(V& v, OtherShipRecord& r) {
+  v("ShipClass", r.ShipClass); v("X", r.X); v("Y", r.Y); v("TargetX", r.TargetX);
+  v("TargetY", r.TargetY); v("HomeX", r.HomeX); v("HomeY", r.HomeY); v("StepX", r.StepX);
+  v("StepY", r.StepY); v("WantsTrade", r.WantsTrade); v("Free", r.Free);
+  v("Identified", r.Identified); v("Greeted", r.Greeted); v("InfoGiven", r.InfoGiven);
+  v("AssistGiven", r.AssistGiven); v("TradeInfoGiven", r.TradeInfoGiven);
+}
+
+struct CharacterRecord {
+  std::string Name;
+  std::int16_t Post = 0;
+  std::int16_t Skill = 0;
+  std::int16_t Salary = 0;
+};
+template <class V>
+void VisitFields(V& v, CharacterRecord& r) {
+  v("Name", r.Name); v("Post", r.Post); v("Skill", r.Skill); v("Salary", r.Salary);
+}
+
+struct CrewPostRecord {
+  double Health = 0;
+  std::int16_t Person = 0;
+  Flag Infected = False, Quarantined = False, Vaccinated = False, SalaryDue = False;
+  std::int16_t SalaryBalance = 0;
+};
+template <class V>
+void VisitFields(V& v, CrewPostRecord& r) {
+  v("Health", r.Health); v("Person", r.Person); v("Infected", r.Infected);
+  v("Quarantined", r.Quarantined); v("Vaccinated", r.Vaccinated); v("SalaryDue", r.SalaryDue);
+  v("SalaryBalance", r.SalaryBalance);
+}
+
+struct UniverseState {
+  double SectorSize = 0;
+  double SensorRange = 0;
+  std::int16_t CurrentQuadrant = 0;
+  std::int16_t PlanetCount = 0;
+  Table<PlanetRecord, 250> Planet{};
+  std::int16_t OtherShipCount = 0;
+  Table<OtherShipRecord, 500> OtherShip{};
+  Table<CharacterRecord, 144> Character{};
+  Table<CrewPostRecord, 6> CrewPost{};
+  Table<Table<std::int16_t, 10>, 250> StationPeople{};
+
+  // The player's ship and its fit; slots 0..20, [slot][1 group, 2 model].
+  std::int16_t HullRace = 0, HullClass = 0;
+  double HullPoints = 0;
+  std::int16_t HullPointsMax = 0;
+  std::int16_t HardpointCount = 0;
+  std::int16_t FreeMass = 0;
+  std::int16_t FreeCargo = 0;
+  Table<Table<std::int16_t, 2>, 20> FittedComp{};
+  Table<double, 20> FittedHealth{};
+  Table<std::int16_t, 20> AmmoLeft{};
+  Table<std::int16_t, 20> RepairCrew{};
+  Table<Table<std::int16_t, 2>, 4> UnfittedComp{};
+
+  // Commodities: base prices and the hold.
+  Table<double, 14> BasePrice{};
+  Table<std::int16_t, 14> Cargo{};
+};
+
+template <class V>
+void VisitFields(V& v, UniverseState& s) {
+  v("SectorSize", s.SectorSize);
+  v("SensorRange", s.SensorRange);
+  v("CurrentQuadrant", s.CurrentQuadrant);
+  v("PlanetCount", s.PlanetCount);
+  v("Planet", s.Planet);
+  v("OtherShipCount", s.OtherShipCount);
+  v("OtherShip", s.OtherShip);
+  v("Character", s.Character);
+  v("CrewPost", s.CrewPost);
+  v("StationPeople", s.StationPeople);
+  v("HullRace", s.HullRace);
+  v("HullClass", s.HullClass);
+  v("HullPoints", s.HullPoints);
+  v("HullPointsMax", s.HullPointsMax);
+  v("HardpointCount", s.HardpointCount);
+  v("FreeMass", s.FreeMass);
+  v("FreeCargo", s.FreeCargo);
+  v("FittedComp", s.FittedComp);
+  v("FittedHealth", s.FittedHealth);
+  v("AmmoLeft", s.AmmoLeft);
+  v("RepairCrew", s.RepairCrew);
+  v("UnfittedComp", s.UnfittedComp);
+  v("BasePrice", s.BasePrice);
+  v("Cargo", s.Cargo);
+}
+
+}  // namespace lf
