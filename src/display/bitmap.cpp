@@ -1,0 +1,35 @@
+#include "display/bitmap.h"
+
+#include <SDL.h>
+
+#include <utility>
+
+namespace lf {
+
+Bitmap::~Bitmap() { Reset(); }
+
+Bitmap::Bitmap(Bitmap&& other) noexcept : surface_(std::exchange(other.surface_, nullptr)) {}
+
+Bitmap& Bitmap::operator=(Bitmap&& other) noexcept {
+  if (this != &other) {
+    Reset();
+    surface_ = std::exchange(other.surface_, nullptr);
+  }
+  return *this;
+}
+
+Bitmap Bitmap::Adopt(SDL_Surface* surface) {
+  Bitmap b;
+  b.surface_ = surface;
+  return b;
+}
+
+int Bitmap::Width() const { return surface_ ? surface_->w : 0; }
+int Bitmap::Height() const { return surface_ ? surface_->h : 0; }
+
+void Bitmap::Reset() {
+  if (surface_) SDL_FreeSurface(surface_);
+  surface_ = nullptr;
+}
+
+}  // namespace lf

@@ -1,0 +1,136 @@
+#include "display/screen.h"
+
+#include <SDL.h>
+
+#include <algorithm>
+#include <cstdio>
+#include <cstdlib>
+#include <cstring>
+#include <filesystem>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "display/bitmap_sets.h"
+#include "shell/game_state.h"
+#include "shell/host.h"
+#include "shell/paths.h"
+
+namespace lf {
+namespace {
+
+struct SurfaceFree {
+  void operator()(SDL_Surface* s) const { SDL_FreeSurface(s); }
+};
+
+std::unique_ptr<SDL_Surface, SurfaceFree> g_back;
+// The last presented frame, 640x480 with no row padding.
+std::vector<std::uint16_t> g_presented;
+
+// The back surface, opened on first use so that a test or tool that never
+// called InicializeDirectDraw still draws somewhere.
+SDL_Surface* Back() {
+  if (!g_back) InicializeDirectDraw();
+  return g_back.get();
+}
+
+}  // namespace
+
+void InicializeDirectDraw() {
+  if (!g_back) {
+    g_back.reset(SDL_CreateRGBSurfaceWithFormat(0, kScreenWidth, kScreenHeight, 16,
+                                                SDL_PIXELFORMAT_RGB565));
+    if (!g_back) {
+      // Without a back surface nothing can be drawn at all; this is not a
+      // missing file but a broken machine.
+      std::fprintf(stderr, "lanefarer: cannot create the back surface: %s\n", SDL_GetError());
+      std::abort();
+    }
+  }
+  SDL_FillRect(g_back.get(), nullptr, 0);
+  g_presented.assign(static_cast<std::size_t>(kScreenWidth) * kScreenHeight, 0);
+}
+
+Bitmap LoadBitmapIntoDXS(std::string_view gamePath) {
+  const std::string file = DataPath(gamePath);
+  Bitmap result;
+  if (SDL_Surface* raw = SDL_LoadBMP(file.c_str())) {
+    SDL_Surface* converted = SDL_ConvertSurfaceFormat(raw, SDL_PIXELFORMAT_RGB565, 0);
+    SDL_FreeSurface(raw);
+    if (converted) {
+      SDL_SetColorKey(converted, SDL_TRUE, 0);
+      result = Bitmap::Adopt(converted);
+    } else {
+      ReportMissing(file, std::string("cannot convert: ") + SDL_GetError());
+    }
+  } else {
+    std::error_code ec;
+    if (!std::filesystem::exists(file, ec))
+      ReportMissing(file, "missing");
+    else
+      ReportMissing(file, std::string("unreadable: ") + SDL_GetError());
+  }
+  Assign(G.ProgressCount, G.ProgressCount + 1.0);
+  if (G.ProgressMode != 0 && G.ProgressCount > 5) DrawProgressBar();
+  return result;
+}
+
+void SetSrc(int left, int top, int right, int bottom) {
+  G.SrcLeft = left;
+  G.SrcTop = top;
+  G.SrcRight = right;
+  G.SrcBottom = bottom;
+}
+
+bool BltFast(int x, int y, const Bitmap& bitmap, bool keyed) {
+  SDL_Surface* src = bitmap.Surface();
+  if (!src) return false;
+  // Widths in 64 bits: the rectangle comes from game arithmetic.
+  const long long left = G.SrcLeft, top = G.SrcTop;
+  const long long w = static_cast<long long>(G.SrcRight) - left;
+  const long long h = static_cast<long long>(G.SrcBottom) - top;
+  if (w <= 0 || h <= 0) return false;
+  if (left < 0 || top < 0 || left + w > src->w || top + h > src->h) return false;
+  if (x < 0 || y < 0 || x + w > kScreenWidth || y + h > kScreenHeight) return false;
+
+  // Most pictures are always drawn the same way, so the key is switched
+  // only when the way changes (switching it rebuilds SDL's blit mapping).
+  const SDL_bool want = keyed ? SDL_TRUE : SDL_FALSE;
+  if (SDL_HasColorKey(src) != want) SDL_SetColorKey(src, want, 0);
+
+  SDL_Rect s{static_cast<int>(left), static_cast<int>(top), static_cast<int>(w), static_cast<int>(h)};
+  SDL_Rect d{x, y, static_cast<int>(w), static_cast<int>(h)};
+  // The rectangle has been checked against both surfaces, so the lower
+  // blit, which does no clipping of its own, is safe.
+  return SDL_LowerBlit(src, &s, Back(), &d) == 0;
+}
+
+void FlipBuffers() {
+  SDL_Surface* back = Back();
+  CurrentHost().Present(BackPixels(), back->pitch);
+  const auto* rows = static_cast<const std::uint8_t*>(back->pixels);
+  const std::size_t rowBytes = static_cast<std::size_t>(kScreenWidth) * sizeof(std::uint16_t);
+  for (int y = 0; y < kScreenHeight; ++y)
+    std::memcpy(g_presented.data() + static_cast<std::size_t>(y) * kScreenWidth,
+                rows + static_cast<std::size_t>(y) * back->pitch, rowBytes);
+  SDL_FillRect(back, nullptr, 0);
+}
+
+const std::uint16_t* BackPixels() { return static_cast<const std::uint16_t*>(Back()->pixels); }
+
+int BackPitchBytes() { return Back()->pitch; }
+
+std::uint16_t BackPixel(int x, int y) {
+  if (x < 0 || y < 0 || x >= kScreenWidth || y >= kScreenHeight) return 0;
+  const auto* rows = static_cast<const std::uint8_t*>(Back()->pixels);
+  std::uint16_t p;
+  std::memcpy(&p, rows + static_cast<std::size_t>(y) * Back()->pitch + 2 * static_cast<std::size_t>(x), 2);
+  return p;
+}
+
+const std::uint16_t* PresentedPixels() {
+  Back();
+  return g_presented.data();
+}
+
+}  // namespace lf
