@@ -269,15 +269,5 @@ TEST_F(CursorTest, HelpIconTogglesTips) {
   EXPECT_EQ(MediaLog()[0], Sound(2, 2));
 }
 
-TEST_F(CursorTest, MoveCursorMovesTheHostsCursor) {
-  MoveCursor(320, 145);
-  EXPECT_EQ(host.cursorX, 320);
-  EXPECT_EQ(host.cursorY, 145);
-  EXPECT_EQ(G.MouseY, 145);
-  host.cursorY = 400;
-  ReadCursor();
-  EXPECT_EQ(G.MouseY, 400);
-}
-
 }  // namespace
 }  // namespace lf
