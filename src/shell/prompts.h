@@ -1,5 +1,6 @@
 // The prompt strip at the foot of the bridge: passing lines, messages that
 // hold the game until OK, yes-or-no questions, and second pages.
+// A question and a message never stand together: each writer clears the other.
 #pragma once
 
 #include <string>
@@ -15,7 +16,9 @@ void SetMessage(const std::string& l1, const std::string& l2, const std::string&
 // A yes-or-no question.
 void SetQuestion(const std::string& l1, const std::string& l2, const std::string& l3, double face);
 
+// The strip, each frame while a prompt is up or PromptAge >= 0.
 void DrawText();
+// The strip's answer buttons, on a bridge click while a prompt is up.
 void CheckQuestion();
 // All PromptFade to 0 and every line's first entry to 3.
 void a_ClearTermScreen();

@@ -1,0 +1,7 @@
+#include "display/blit_observer.h"
+
+namespace lf {
+
+BlitObserver g_blit_observer = nullptr;
+
+}  // namespace lf
