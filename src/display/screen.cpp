@@ -1,5 +1,7 @@
 #include "display/screen.h"
 
+#include "display/blit_observer.h"
+
 #include <SDL.h>
 
 #include <algorithm>
@@ -83,6 +85,7 @@ void SetSrc(int left, int top, int right, int bottom) {
 }
 
 bool BltFast(int x, int y, const Bitmap& bitmap, bool keyed) {
+  if (g_blit_observer) g_blit_observer(x, y, bitmap, keyed);
   SDL_Surface* src = bitmap.Surface();
   if (!src) return false;
   // Widths in 64 bits: the rectangle comes from game arithmetic.
