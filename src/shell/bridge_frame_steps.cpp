@@ -8,6 +8,7 @@
 #include "events/events_procedures.h"
 #include "media/media.h"
 #include "missions/missions_procedures.h"
+#include "shell/call_trace.h"
 #include "shell/cursor.h"
 #include "shell/doors.h"
 #include "shell/game_state.h"
@@ -43,7 +44,7 @@ void EnterRaisedEvent() {
   G.BridgeActive = False;
   G.StationActive = False;
   G.EventActive = True;
-  c_EnterEvent();
+  Call("c_EnterEvent", c_EnterEvent);
 }
 
 void EnterStationIfCleared(bool dropMouseLook) {
@@ -51,7 +52,7 @@ void EnterStationIfCleared(bool dropMouseLook) {
   if (dropMouseLook) G.MouseLook = False;
   G.BridgeActive = False;
   G.StationActive = True;
-  a_EnteringStation();
+  Call("a_EnteringStation", a_EnteringStation);
 }
 
 void UpdateHailMessagesButton() {
@@ -92,7 +93,7 @@ void MoveShip() {
     G.ShipY += G.ShipStepY;
   else
     G.ShipY = 0;
-  CheckPatrolPoint();
+  Call("CheckPatrolPoint", CheckPatrolPoint);
 }
 
 void FollowShipWithView() {
@@ -117,7 +118,7 @@ void FollowOtherShip() {
   if (G.FollowMode == 0 || G.FollowShip == 0) return;
   G.DestX = G.OtherShip[G.FollowShip].X;
   G.DestY = G.OtherShip[G.FollowShip].Y;
-  if (FreeBridge()) CheckDirection();
+  if (FreeBridge()) Call("CheckDirection", CheckDirection);
 }
 
 void OfferOrbit() {
@@ -166,29 +167,39 @@ namespace {
 
 struct Panel {
   int page, button;
+  const char* name;
   void (*draw)();
 };
 
 // In drawing order: later panels cover earlier ones.
 constexpr Panel kPanels[] = {
-    {5, 8, DrawGuildMembership}, {1, 2, DrawAutopilotList},   {5, 5, DrawCrewInfo},
-    {2, 8, DrawHailMessages},    {2, 6, DrawSoftwareOnBoard}, {5, 2, DrawResearchList},
-    {4, 1, DrawMedicalList},     {6, 2, DrawCargoList},       {6, 4, DrawUnfitted},
-    {4, 4, DrawQuarantineList},  {3, 3, DrawEnergyList},      {5, 4, DrawCurrentMissions},
-    {6, 3, DrawEngineerAdd},     {6, 1, DrawMaintnanceList},  {5, 3, DrawDiplomacy},
-    {5, 7, DrawShipStatus},
+    {5, 8, "DrawGuildMembership", DrawGuildMembership},
+    {1, 2, "DrawAutopilotList", DrawAutopilotList},
+    {5, 5, "DrawCrewInfo", DrawCrewInfo},
+    {2, 8, "DrawHailMessages", DrawHailMessages},
+    {2, 6, "DrawSoftwareOnBoard", DrawSoftwareOnBoard},
+    {5, 2, "DrawResearchList", DrawResearchList},
+    {4, 1, "DrawMedicalList", DrawMedicalList},
+    {6, 2, "DrawCargoList", DrawCargoList},
+    {6, 4, "DrawUnfitted", DrawUnfitted},
+    {4, 4, "DrawQuarantineList", DrawQuarantineList},
+    {3, 3, "DrawEnergyList", DrawEnergyList},
+    {5, 4, "DrawCurrentMissions", DrawCurrentMissions},
+    {6, 3, "DrawEngineerAdd", DrawEngineerAdd},
+    {6, 1, "DrawMaintnanceList", DrawMaintnanceList},
+    {5, 3, "DrawDiplomacy", DrawDiplomacy},
+    {5, 7, "DrawShipStatus", DrawShipStatus},
 };
 
 }  // namespace
 
 void DrawPanels() {
   for (const Panel& panel : kPanels) {
-    Skip([&panel] {
-      if (ButtonState(panel.page, panel.button) != 1) return;
-      // The hail messages only while the hail stands open.
-      if (panel.draw == DrawHailMessages && G.OrbitState != 6) return;
-      panel.draw();
-    });
+    bool on = false;
+    Skip([&] { on = ButtonState(panel.page, panel.button) == 1; });
+    // The hail messages only while the hail stands open.
+    if (panel.draw == DrawHailMessages && G.OrbitState != 6) on = false;
+    if (on) Call(panel.name, panel.draw);
   }
 }
 

@@ -4,6 +4,7 @@
 #include "events/events_procedures.h"
 #include "media/media.h"
 #include "shell/bridge_click.h"
+#include "shell/call_trace.h"
 #include "shell/game_state.h"
 #include "shell/menu.h"
 #include "shell/screens.h"
@@ -13,14 +14,16 @@ namespace lf {
 
 void Form_MouseDown(int Button) {
   G.ClickSeen = True;
-  if (G.FightActive == True) Skip(d_CheckMouseDown);
-  if (G.MenuActive == True) Skip(CheckMenuMouseDown);
+  if (G.FightActive == True) Call("d_CheckMouseDown", d_CheckMouseDown);
+  if (G.MenuActive == True) Call("CheckMenuMouseDown", CheckMenuMouseDown);
   if (G.EventActive == True && G.StationActive == 0 && G.MenuActive == 0 && G.FightActive == 0)
-    Skip(c_CheckEventMouseDown);
+    Call("c_CheckEventMouseDown", c_CheckEventMouseDown);
   if (G.StationActive == True && G.MenuActive == 0 && G.EventActive == 0 && G.FightActive == 0)
-    Skip(a_CheckStationMouseDown);
-  if (G.StationActive == 0 && G.MenuActive == 0 && G.EventActive == 0 && G.FightActive == 0)
+    Call("a_CheckStationMouseDown", a_CheckStationMouseDown);
+  if (G.StationActive == 0 && G.MenuActive == 0 && G.EventActive == 0 && G.FightActive == 0) {
+    TraceCall("CheckBridgeMouseDown");
     Skip([Button] { CheckBridgeMouseDown(Button); });
+  }
 }
 
 void Form_KeyDown(int KeyCode) {

@@ -7,6 +7,7 @@
 #include "display/screen.h"
 #include "missions/missions_procedures.h"
 #include "shell/bridge_frame_steps.h"
+#include "shell/call_trace.h"
 #include "shell/cursor.h"
 #include "shell/game_state.h"
 #include "shell/guards.h"
@@ -18,23 +19,24 @@ namespace lf {
 namespace {
 
 void DrawMapLayers() {
-  Skip(DrawBack);
-  Skip(DrawNebulas);
-  Skip(DrawQuadBack);
-  Skip(DrawStars);
-  if (G.ShowGrid == True) Skip(DrawGrid);
-  if (G.ShowSensorRange == True && G.SensorLevel >= 100 && G.InNebula == 0) Skip(DrawSensorRange);
-  Skip(DrawPlans);
-  Skip(DrawToolsIcons);
-  Skip(DrawTime);
-  Skip(DrawDebrisCargo);
-  Skip(DrawMissionObjectives);
-  Skip(DrawShip);
-  Skip(DrawOtherShips);
-  Skip(DrawDistance);
-  Skip(DrawDestination);
-  Skip(DrawCoords);
-  Skip(DrawButtons);
+  Call("DrawBack", DrawBack);
+  Call("DrawNebulas", DrawNebulas);
+  Call("DrawQuadBack", DrawQuadBack);
+  Call("DrawStars", DrawStars);
+  if (G.ShowGrid == True) Call("DrawGrid", DrawGrid);
+  if (G.ShowSensorRange == True && G.SensorLevel >= 100 && G.InNebula == 0)
+    Call("DrawSensorRange", DrawSensorRange);
+  Call("DrawPlans", DrawPlans);
+  Call("DrawToolsIcons", DrawToolsIcons);
+  Call("DrawTime", DrawTime);
+  Call("DrawDebrisCargo", DrawDebrisCargo);
+  Call("DrawMissionObjectives", DrawMissionObjectives);
+  Call("DrawShip", DrawShip);
+  Call("DrawOtherShips", DrawOtherShips);
+  Call("DrawDistance", DrawDistance);
+  Call("DrawDestination", DrawDestination);
+  Call("DrawCoords", DrawCoords);
+  Call("DrawButtons", DrawButtons);
 }
 
 bool InFlight() { return G.OrbitState == 0 || G.OrbitState == 1; }
@@ -42,47 +44,54 @@ bool InFlight() { return G.OrbitState == 0 || G.OrbitState == 1; }
 }  // namespace
 
 void RunLoopFrame() {
-  Skip(RecountRepairPool);                                     // 1
-  Skip(CapHullPoints);                                         // 2
-  Skip(EnterRaisedEvent);                                      // 3
-  Skip([] { EnterStationIfCleared(true); });                   // 4
-  G.NoGameRunning = False;                                     // 5
-  Skip(CheckStopAvailability);
-  Skip(CheckMissingComponents);
-  Skip(UpdateHailMessagesButton);                              // 6
-  Skip(CheckArrival);                                          // 7
-  if (FreeBridge()) {                                          // 8
-    Skip(UpdateHealth);
-    Skip(UpdateRepair);
-    Skip(UpdateEnergy);
-    Skip(UpdateUpgrade);
+  // 1-4: the repair pool, the hull cap, then the hand-overs: an event is
+  // taken before a docking.
+  Skip(RecountRepairPool);
+  Skip(CapHullPoints);
+  Skip(EnterRaisedEvent);
+  Skip([] { EnterStationIfCleared(true); });
+  // 5-7
+  G.NoGameRunning = False;
+  Call("CheckStopAvailability", CheckStopAvailability);
+  Call("CheckMissingComponents", CheckMissingComponents);
+  Skip(UpdateHailMessagesButton);
+  Skip(CheckArrival);
+  // 8-13: the rates run and the ship moves only on a free bridge.
+  if (FreeBridge()) {
+    Call("UpdateHealth", UpdateHealth);
+    Call("UpdateRepair", UpdateRepair);
+    Call("UpdateEnergy", UpdateEnergy);
+    Call("UpdateUpgrade", UpdateUpgrade);
   }
-  if (G.MouseLook == True && FreeBridge()) Skip(CheckViewMove);  // 9
-  Skip(MoveShip);                                              // 10
-  Skip(FollowShipWithView);                                    // 11
-  Skip(ClampDestinationAndView);                               // 12
-  Skip(FollowOtherShip);                                       // 13
-  DrawMapLayers();                                             // 14
-  if (NoPrompt()) Skip(CheckMouseOverButton);                  // 15
-  if (InFlight() && FreeBridge()) Skip(CheckScroll);           // 16
-  Skip(DrawFaces);                                             // 17
-  if (InFlight() && FreeBridge()) Skip(CheckDistance);         // 18
-  Skip(OfferOrbit);                                            // 19
-  Skip(HoldCursorOnStrip);                                     // 20
-  if (G.QuestionPending == True || G.MessagePending == True || G.PromptAge >= 0)
-    Skip(DrawText);                                            // 21
-  if (IsSet(G.StatusSlot[7].Active)) Skip(HandleShipEvent7);   // 22
-  if (IsSet(G.StatusSlot[8].Active)) Skip(HandleShipEvent8);
-  Skip([] { EnterStationIfCleared(false); });                  // 23
-  Skip(DrawViewContents);                                      // 24
-  Skip(DrawHealth);                                            // 25
-  DrawPanels();                                                // 26
-  if (G.StarLaneKnown == True) Skip(EnteringStarlane);         // 27
-  if (G.MouseLook == 0) Skip(DrawCursor);                      // 28
-  if (G.TooltipsOn == True) Skip(CheckOverTool);               // 29
-  if (FreeBridge()) Skip(CheckPowerOverload);                  // 30
-  if (G.TooltipVisible == True && G.TooltipsOn == True) Skip(DrawToolTip);  // 31
-  Skip(FlipBuffers);                                           // 32
+  if (G.MouseLook == True && FreeBridge()) Call("CheckViewMove", CheckViewMove);
+  Skip(MoveShip);
+  Skip(FollowShipWithView);
+  Skip(ClampDestinationAndView);
+  Skip(FollowOtherShip);
+  // 14-18
+  DrawMapLayers();
+  if (NoPrompt()) Call("CheckMouseOverButton", CheckMouseOverButton);
+  if (InFlight() && FreeBridge()) Call("CheckScroll", CheckScroll);
+  Call("DrawFaces", DrawFaces);
+  if (InFlight() && FreeBridge()) Call("CheckDistance", CheckDistance);
+  // 19-23: the strip, shipboard incidents, and the docking once more.
+  Skip(OfferOrbit);
+  Skip(HoldCursorOnStrip);
+  if (G.QuestionPending == True || G.MessagePending == True || G.PromptAge >= 0) Call("DrawText", DrawText);
+  if (IsSet(G.StatusSlot[7].Active)) Call("HandleShipEvent7", HandleShipEvent7);
+  if (IsSet(G.StatusSlot[8].Active)) Call("HandleShipEvent8", HandleShipEvent8);
+  Skip([] { EnterStationIfCleared(false); });
+  // 24-31: the view, the panels, the star lane, cursor and tips.
+  Skip(DrawViewContents);
+  Call("DrawHealth", DrawHealth);
+  DrawPanels();
+  if (G.StarLaneKnown == True) Call("EnteringStarlane", EnteringStarlane);
+  if (G.MouseLook == 0) Call("DrawCursor", DrawCursor);
+  if (G.TooltipsOn == True) Call("CheckOverTool", CheckOverTool);
+  if (FreeBridge()) Call("CheckPowerOverload", CheckPowerOverload);
+  if (G.TooltipVisible == True && G.TooltipsOn == True) Call("DrawToolTip", DrawToolTip);
+  // 32
+  Call("FlipBuffers", FlipBuffers);
   Yield();
 }
 

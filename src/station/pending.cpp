@@ -1,8 +1,8 @@
 // Station procedures not written yet.
+#include "display/screen.h"
 #include "shell/cursor.h"
 #include "shell/game_state.h"
 #include "shell/screens.h"
-#include "display/screen.h"
 #include "station/station_procedures.h"
 
 namespace lf {
