@@ -65,13 +65,40 @@ TEST_F(BridgeFrame, CallsItsProceduresInTheFixedOrder) {
   G.ShipStepX = 1;
   G.DestX = 4000;
   Frames(1);
-  const std::vector<std::string> expected = {
-      "CheckStopAvailability", "CheckMissingComponents", "UpdateHealth", "UpdateRepair", "UpdateEnergy",
-      "UpdateUpgrade", "CheckPatrolPoint", "DrawBack", "DrawNebulas", "DrawQuadBack", "DrawStars", "DrawGrid",
-      "DrawSensorRange", "DrawPlans", "DrawToolsIcons", "DrawTime", "DrawDebrisCargo", "DrawMissionObjectives",
-      "DrawShip", "DrawOtherShips", "DrawDistance", "DrawDestination", "DrawCoords", "DrawButtons",
-      "CheckMouseOverButton", "CheckScroll", "DrawFaces", "CheckDistance", "DrawText", "DrawHealth", "DrawCursor",
-      "CheckOverTool", "CheckPowerOverload", "FlipBuffers"};
+  const std::vector<std::string> expected = {"CheckStopAvailability",
+                                             "CheckMissingComponents",
+                                             "UpdateHealth",
+                                             "UpdateRepair",
+                                             "UpdateEnergy",
+                                             "UpdateUpgrade",
+                                             "CheckPatrolPoint",
+                                             "DrawBack",
+                                             "DrawNebulas",
+                                             "DrawQuadBack",
+                                             "DrawStars",
+                                             "DrawGrid",
+                                             "DrawSensorRange",
+                                             "DrawPlans",
+                                             "DrawToolsIcons",
+                                             "DrawTime",
+                                             "DrawDebrisCargo",
+                                             "DrawMissionObjectives",
+                                             "DrawShip",
+                                             "DrawOtherShips",
+                                             "DrawDistance",
+                                             "DrawDestination",
+                                             "DrawCoords",
+                                             "DrawButtons",
+                                             "CheckMouseOverButton",
+                                             "CheckScroll",
+                                             "DrawFaces",
+                                             "CheckDistance",
+                                             "DrawText",
+                                             "DrawHealth",
+                                             "DrawCursor",
+                                             "CheckOverTool",
+                                             "CheckPowerOverload",
+                                             "FlipBuffers"};
   EXPECT_EQ(Calls(), expected);
 }
 
@@ -79,8 +106,9 @@ TEST_F(BridgeFrame, RatesAndChecksStandUnderAPromptOrAHail) {
   OnBridge();
   G.QuestionPending = True;
   Frames(1);
-  for (const char* held : {"UpdateHealth", "UpdateRepair", "UpdateEnergy", "UpdateUpgrade", "CheckMouseOverButton",
-                           "CheckScroll", "CheckDistance", "CheckPowerOverload", "CheckPatrolPoint"})
+  for (const char* held :
+       {"UpdateHealth", "UpdateRepair", "UpdateEnergy", "UpdateUpgrade", "CheckMouseOverButton",
+        "CheckScroll", "CheckDistance", "CheckPowerOverload", "CheckPatrolPoint"})
     EXPECT_FALSE(Called(held)) << held;
   EXPECT_TRUE(Called("DrawText"));
 
@@ -89,7 +117,8 @@ TEST_F(BridgeFrame, RatesAndChecksStandUnderAPromptOrAHail) {
   G.HailedShip = 4;
   G.OrbitState = 6;
   Frames(1);
-  for (const char* held : {"UpdateHealth", "UpdateRepair", "UpdateEnergy", "UpdateUpgrade", "CheckPowerOverload"})
+  for (const char* held :
+       {"UpdateHealth", "UpdateRepair", "UpdateEnergy", "UpdateUpgrade", "CheckPowerOverload"})
     EXPECT_FALSE(Called(held)) << held;
   EXPECT_TRUE(Called("CheckMouseOverButton"));  // a hail is no prompt
   EXPECT_EQ(G.HailedShip, 4);
@@ -113,13 +142,14 @@ TEST_F(BridgeFrame, DrawsTheOpenPanelsInTheirOrderAndHailMessagesOnlyInAnOpenHai
   Frames(1);
   std::vector<std::string> drawn;
   for (const auto& c : Calls())
-    if (c.rfind("Draw", 0) == 0 && c != "DrawHealth" && c != "DrawCursor" && c != "DrawFaces") drawn.push_back(c);
+    if (c.rfind("Draw", 0) == 0 && c != "DrawHealth" && c != "DrawCursor" && c != "DrawFaces")
+      drawn.push_back(c);
   const std::vector<std::string> tail(drawn.end() - 16, drawn.end());
   const std::vector<std::string> expected = {
-      "DrawGuildMembership", "DrawAutopilotList", "DrawCrewInfo",       "DrawHailMessages",
-      "DrawSoftwareOnBoard", "DrawResearchList",  "DrawMedicalList",    "DrawCargoList",
-      "DrawUnfitted",        "DrawQuarantineList", "DrawEnergyList",    "DrawCurrentMissions",
-      "DrawEngineerAdd",     "DrawMaintnanceList", "DrawDiplomacy",     "DrawShipStatus"};
+      "DrawGuildMembership", "DrawAutopilotList",  "DrawCrewInfo",    "DrawHailMessages",
+      "DrawSoftwareOnBoard", "DrawResearchList",   "DrawMedicalList", "DrawCargoList",
+      "DrawUnfitted",        "DrawQuarantineList", "DrawEnergyList",  "DrawCurrentMissions",
+      "DrawEngineerAdd",     "DrawMaintnanceList", "DrawDiplomacy",   "DrawShipStatus"};
   EXPECT_EQ(tail, expected);
 
   Calls().clear();
@@ -311,7 +341,7 @@ TEST_F(BridgeFrame, RecountsTheRepairPoolFromTheEngineerAndFittedShares) {
   G.RepairCrew[1] = 20;
   G.FittedComp[2][1] = 5;
   G.RepairCrew[2] = 30;
-  G.RepairCrew[3] = 40;   // no component: its share does not count
+  G.RepairCrew[3] = 40;  // no component: its share does not count
   G.FittedComp[11][1] = 1;
   G.RepairCrew[11] = 70;  // past the hardpoints: not counted either
   Frames(1);

@@ -1,8 +1,9 @@
 // The two clocks: frame counting, what holds game time, the story event
 // draw, the static, and the fight's countdowns.
+#include "shell/clocks.h"
+
 #include <gtest/gtest.h>
 
-#include "shell/clocks.h"
 #include "shell/event_queue.h"
 #include "shell_fixture.h"
 

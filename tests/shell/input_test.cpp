@@ -1,8 +1,9 @@
 // Who takes a mouse press, and the queue that delivers presses and keys.
+#include "shell/input.h"
+
 #include <gtest/gtest.h>
 
 #include "shell/event_queue.h"
-#include "shell/input.h"
 #include "shell_fixture.h"
 
 namespace lf::test {
@@ -41,7 +42,8 @@ TEST_F(Input, EachTestSeesWhatTheHandlersBeforeItLeft) {
   // the menu lets go, and the same press then reaches the event screen.
   G.NoGameRunning = False;
   host.cursorY = BandY(2);
-  EXPECT_EQ(PressWith(0, True, True, 0), (std::vector<std::string>{"CheckMenuMouseDown", "c_CheckEventMouseDown"}));
+  EXPECT_EQ(PressWith(0, True, True, 0),
+            (std::vector<std::string>{"CheckMenuMouseDown", "c_CheckEventMouseDown"}));
   EXPECT_EQ(G.MenuActive, False);
 }
 
@@ -55,8 +57,8 @@ TEST_F(Input, EscapeOpensTheMenuOverAnyScreen) {
   EXPECT_EQ(G.MenuActive, True);
   EXPECT_EQ(ScreenAt(0), Screen::Station);
   EXPECT_EQ(TopScreen(), Screen::Menu);
-  EXPECT_EQ(MediaLog(), (std::vector<MediaCall>{{MediaCall::Kind::Sound, 2, 1, {}},
-                                                {MediaCall::Kind::Track, 2, 0, {}}}));
+  EXPECT_EQ(MediaLog(),
+            (std::vector<MediaCall>{{MediaCall::Kind::Sound, 2, 1, {}}, {MediaCall::Kind::Track, 2, 0, {}}}));
 }
 
 TEST_F(Input, AScreenChangeLeavesTheRestOfTheYieldQueued) {
