@@ -5,7 +5,10 @@
 
 #include <cstdint>
 #include <deque>
+#include <utility>
 #include <vector>
+
+#include "shell/program.h"
 
 namespace lf {
 
@@ -47,8 +50,29 @@ class ScriptedHost : public Host {
     pendingCursor.push_back({x, y});
   }
   void Key(int code) { batches.push_back({InputEvent{InputEvent::Kind::KeyDown, 1, code}}); pendingCursor.push_back({-1, -1}); }
+  // Several events delivered in one yield.
+  void Send(std::vector<InputEvent> batch) {
+    batches.push_back(std::move(batch));
+    pendingCursor.push_back({-1, -1});
+  }
+  // Yields with no input.
+  void Wait(int yields) {
+    for (int i = 0; i < yields; ++i) {
+      batches.push_back({});
+      pendingCursor.push_back({-1, -1});
+    }
+  }
+  void CloseWindow() {
+    batches.push_back({InputEvent{InputEvent::Kind::Close, 1, 0}});
+    pendingCursor.push_back({-1, -1});
+  }
+  // Yields left before the host ends the program with status -1 (a test that
+  // would otherwise wait for ever); -1 for no limit.
+  long yieldBudget = -1;
 
   void PumpInput(std::vector<InputEvent>& out) override {
+    if (yieldBudget == 0) throw ProgramEnd{-1};
+    if (yieldBudget > 0) --yieldBudget;
     if (batches.empty()) return;
     auto [x, y] = pendingCursor.front();
     pendingCursor.pop_front();

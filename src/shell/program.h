@@ -15,4 +15,10 @@ struct ProgramEnd {
 // the exit status. The host and media backend must be set before.
 int RunProgram();
 
+// The two halves of RunProgram, for drivers and tests that run frames one
+// at a time: BeginProgram empties the machine and runs Form_Load (which ends
+// in the menu); then each RunNextFrame (screens.h) runs one frame. Both let
+// ProgramEnd through.
+void BeginProgram();
+
 }  // namespace lf
