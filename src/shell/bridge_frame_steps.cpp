@@ -148,17 +148,7 @@ void DrawViewContents() {
       SetSrc(0, 0, 400, 240);
       BltFast(121, 25, GFX.OrbitPicture, false);
       break;
-    case 6:
-      SetSrc(0, 0, 400, 240);
-      BltFast(121, 25, GFX.HailPicture, false);
-      if (G.StaticOn == True) {
-        if (Rnd() < 0.1) PlaySoundFx(6, 7);
-        Skip([] {
-          SetSrc(0, 0, 400, RandomInt(60));
-          BltFast(121, G.StaticY, GFX.StaticBig[G.StaticFrame], true);
-        });
-      }
-      break;
+    case 6: DrawHailView(); break;
     default: G.HailedShip = 0; break;
   }
 }

@@ -3,12 +3,12 @@
 #include <gtest/gtest.h>
 
 #include "shell/input.h"
-#include "shell_fixture.h"
+#include "loop_fixture.h"
 
 namespace lf::test {
 namespace {
 
-using BridgeFrame = ShellTest;
+using BridgeFrame = LoopTest;
 
 TEST_F(BridgeFrame, TakesARaisedEventBeforeADocking) {
   OnBridge();

@@ -5,12 +5,12 @@
 #include <gtest/gtest.h>
 
 #include "shell/event_queue.h"
-#include "shell_fixture.h"
+#include "loop_fixture.h"
 
 namespace lf::test {
 namespace {
 
-using Clocks = ShellTest;
+using Clocks = LoopTest;
 
 TEST_F(Clocks, TickAfterEverySixthAndSixtiethFrameWhileRunning) {
   G.TimeStep = 0.1;

@@ -4,12 +4,12 @@
 #include <gtest/gtest.h>
 
 #include "shell/event_queue.h"
-#include "shell_fixture.h"
+#include "loop_fixture.h"
 
 namespace lf::test {
 namespace {
 
-using Input = ShellTest;
+using Input = LoopTest;
 
 std::vector<std::string> PressWith(Flag fight, Flag menu, Flag event, Flag station) {
   G.FightActive = fight;

@@ -5,12 +5,12 @@
 #include <gtest/gtest.h>
 
 #include "combat/combat_procedures.h"
-#include "shell_fixture.h"
+#include "loop_fixture.h"
 
 namespace lf::test {
 namespace {
 
-using Menu = ShellTest;
+using Menu = LoopTest;
 
 TEST_F(Menu, BandsAreLitByRowAndTheBordersLightNone) {
   struct Case {

@@ -3,12 +3,12 @@
 
 #include "shell/death.h"
 #include "shell/menu.h"
-#include "shell_fixture.h"
+#include "loop_fixture.h"
 
 namespace lf::test {
 namespace {
 
-using NewGame = ShellTest;
+using NewGame = LoopTest;
 
 // StartNew with LoadAfterStart set, so that it does not wait on the opening
 // picture.

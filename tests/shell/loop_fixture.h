@@ -25,7 +25,7 @@ inline std::vector<std::string>& Calls() {
 // Menu bands: the middle row of entry i.
 constexpr int BandY(int entry) { return 90 + 60 * entry; }
 
-class ShellTest : public ::testing::Test {
+class LoopTest : public ::testing::Test {
  protected:
   ScriptedHost host;
 
