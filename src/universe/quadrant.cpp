@@ -301,6 +301,11 @@ void FillPictureTables() {
   marker.FrameStep = 0.5;
 }
 
+std::string PlanetPicturePath(int picture) {
+  if (picture < 1 || picture > 26) return {};
+  return "\\gfx\\planets\\" + std::string(data::kPictures[static_cast<std::size_t>(picture)].File);
+}
+
 void FillPlanetNames() {
   for (int i = 0; i <= decltype(G.PlanetNames)::kHi; ++i)
     G.PlanetNames[i] = i <= data::kPlanetNameRows

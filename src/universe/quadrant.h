@@ -2,6 +2,8 @@
 // pods, and the traffic and people placed on them.
 #pragma once
 
+#include <string>
+
 namespace lf {
 
 // Builds the whole quadrant (bodies, other ships, nebulas, debris, pods,
@@ -16,6 +18,10 @@ void RandomizePlans(int quadrant);
 // The picture tables of the 26 body pictures, and the unknown-body marker
 // Planet[0].
 void FillPictureTables();
+
+// The file of body picture 1..26 in the game's path notation
+// ("\gfx\planets\gasgiant.bmp"); empty outside 1..26.
+std::string PlanetPicturePath(int picture);
 
 // PlanetNames, rows 1..318 (132 and 133 empty).
 void FillPlanetNames();

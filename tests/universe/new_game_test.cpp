@@ -10,6 +10,7 @@
 #include "universe/characters.h"
 #include "universe/new_game.h"
 #include "universe/other_ships.h"
+#include "universe/quadrant.h"
 
 namespace lf {
 namespace {
@@ -41,6 +42,8 @@ TEST_F(NewGame, SetsTheConstantsFacesAndButtons) {
   EXPECT_EQ(G.FaceHeight[6], 100);
   EXPECT_EQ(G.Planet[0].Width, 64);
   EXPECT_EQ(G.PictureWidth[21], 45);
+  EXPECT_EQ(PlanetPicturePath(5), "\\gfx\\planets\\gasgiant.bmp");
+  EXPECT_EQ(PlanetPicturePath(27), "");
   EXPECT_EQ(G.OfficerLine[6][1], "CHIEF ENGINEER REPORTING!");
   EXPECT_EQ(G.OfficerLine[2][3], "CAPTAIN?");
 
