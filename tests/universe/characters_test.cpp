@@ -82,10 +82,15 @@ TEST(StationPeople, TheUsedRowsRunOutLateInQuadrantOne) {
   int empty = 0;
   for (int i = 1; i <= 40; ++i) {
     const int a = G.StationPeople[i][1];
-    if (a == 0) ++empty;
-    else EXPECT_TRUE(rows.insert(a).second) << "row " << a << " twice";
+    if (a == 0) {
+      ++empty;
+    } else {
+      EXPECT_TRUE(rows.insert(a).second) << "row " << a << " twice";
+    }
     const int b = G.StationPeople[i][2];
-    if (b != 0) EXPECT_TRUE(rows.insert(b).second) << "row " << b << " twice";
+    if (b != 0) {
+      EXPECT_TRUE(rows.insert(b).second) << "row " << b << " twice";
+    }
   }
   EXPECT_LE(rows.size(), 48u);
   EXPECT_GT(empty, 0);

@@ -54,7 +54,9 @@ void CheckBodies(int quadrant) {
     EXPECT_EQ(p.Known, False);
     ASSERT_GE(p.Type, 1);
     ASSERT_LE(p.Type, 10);
-    if (p.HasStation != 0) EXPECT_NE(p.Race, 0) << "a station stands only where a race lives";
+    if (p.HasStation != 0) {
+      EXPECT_NE(p.Race, 0) << "a station stands only where a race lives";
+    }
     if (p.Race == 7) {
       ++pirates;
       EXPECT_EQ(p.Society, 9);
@@ -65,7 +67,9 @@ void CheckBodies(int quadrant) {
     } else {
       EXPECT_GE(p.Society, 1);
       EXPECT_LE(p.Society, 8);
-      if (p.Race != 0) EXPECT_TRUE(TypeAllowed(p.Race, p.Type)) << "race " << p.Race << " type " << p.Type;
+      if (p.Race != 0) {
+        EXPECT_TRUE(TypeAllowed(p.Race, p.Type)) << "race " << p.Race << " type " << p.Type;
+      }
       EXPECT_TRUE(PictureFitsType(p.Type, static_cast<int>(p.Picture), p.Size));
       EXPECT_EQ(p.Width, G.PictureWidth[static_cast<int>(p.Picture)]);
       EXPECT_EQ(p.SmallBody, p.Size <= 3 ? True : False);
@@ -147,7 +151,9 @@ void CheckTraffic(int quadrant) {
       EXPECT_EQ(o.WantsTrade, False);
     } else {
       EXPECT_TRUE(o.ShipClass == 1 || o.ShipClass == 6 || o.ShipClass == trader) << o.ShipClass;
-      if (o.WantsTrade != False) EXPECT_EQ(o.ShipClass, trader);
+      if (o.WantsTrade != False) {
+        EXPECT_EQ(o.ShipClass, trader);
+      }
     }
   }
 }
@@ -180,7 +186,9 @@ void CheckPeopleAndStocks(int quadrant) {
     }
     const StationStockRecord& stock = G.StationStock[i];
     for (int c : {4, 5, 10}) {
-      if (p.Race == 7) EXPECT_GT(stock.Quantity[c], 0);
+      if (p.Race == 7) {
+        EXPECT_GT(stock.Quantity[c], 0);
+      }
       else EXPECT_EQ(stock.Quantity[c], 0);
     }
     if (p.Type == 6 && p.Race != 7) {
