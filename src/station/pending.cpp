@@ -22,4 +22,7 @@ void a_StationLoopFrame() {
 // Guilds: filled by the guild halls.
 void DrawGuildMembership() {}
 
+// Meeting lounge: filled by the lounge's news.
+void a_ChangeNewsText() {}
+
 }  // namespace lf

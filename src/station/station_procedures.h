@@ -15,5 +15,7 @@ void a_CheckStationMouseDown();
 void a_StationLoopFrame();
 // The guild panel on the bridge, button (5,8).
 void DrawGuildMembership();
+// A new headline for the lounge's news screen.
+void a_ChangeNewsText();
 
 }  // namespace lf

@@ -1,5 +1,7 @@
 #include "universe/characters.h"
 
+#include "display/gfx.h"
+
 #include <algorithm>
 #include <cmath>
 #include <string>
@@ -33,10 +35,7 @@ int DrawRow(DrawRange r) { return static_cast<int>(Int(Rnd() * r.N)) + r.First; 
 
 }  // namespace
 
-Table<Bitmap, 144>& CharacterFace() {
-  static Table<Bitmap, 144> faces;
-  return faces;
-}
+Table<Bitmap, 144>& CharacterFace() { return GFX.CharacterFace; }
 
 int CharacterRace(int row) { return (row >= 1 && row <= 144) ? (row - 1) / 24 + 1 : 0; }
 

@@ -3,13 +3,11 @@
 #include "display/bitmap_sets.h"
 #include "shell/game_state.h"
 #include "shell/host.h"
+#include "station/station_procedures.h"
 #include "universe/bridge_buttons.h"
 #include "universe/quadrant.h"
 
 namespace lf {
-
-// The station news of the meeting lounge, changed at a new game.
-void a_ChangeNewsText();
 
 namespace {
 

@@ -15,7 +15,7 @@
 namespace lf {
 namespace {
 
-class NewGame : public ::testing::Test {
+class NewGameSetup : public ::testing::Test {
  protected:
   void SetUp() override {
     SetHost(&host_);
@@ -27,7 +27,7 @@ class NewGame : public ::testing::Test {
   ScriptedHost host_;
 };
 
-TEST_F(NewGame, SetsTheConstantsFacesAndButtons) {
+TEST_F(NewGameSetup, SetsTheConstantsFacesAndButtons) {
   host_.seed = 17;
   RandomGame();
   EXPECT_EQ(G.SectorSize, 5000);
@@ -78,7 +78,7 @@ TEST_F(NewGame, SetsTheConstantsFacesAndButtons) {
   EXPECT_EQ(ButtonSheetPath(9, 1), "");
 }
 
-TEST_F(NewGame, AsteroidFieldsLieOnTheGridAndStartAfreshEachGame) {
+TEST_F(NewGameSetup, AsteroidFieldsLieOnTheGridAndStartAfreshEachGame) {
   int atEdge = 0;
   for (int seed = 1; seed <= 25; ++seed) {
     host_.seed = seed;
@@ -100,7 +100,7 @@ TEST_F(NewGame, AsteroidFieldsLieOnTheGridAndStartAfreshEachGame) {
   EXPECT_GT(atEdge, 0);  // a field may hang over the edge of the map
 }
 
-TEST_F(NewGame, OneSeedGivesOneGameAndTheDumpCarriesIt) {
+TEST_F(NewGameSetup, OneSeedGivesOneGameAndTheDumpCarriesIt) {
   host_.seed = 99;
   RandomGame();
   RandomizeCharacters();
@@ -125,7 +125,7 @@ TEST_F(NewGame, OneSeedGivesOneGameAndTheDumpCarriesIt) {
 }
 
 // A restored record may hold anything; no procedure here may fall over it.
-TEST_F(NewGame, OutOfRangeRestoredValuesAreHarmless) {
+TEST_F(NewGameSetup, OutOfRangeRestoredValuesAreHarmless) {
   host_.seed = 5;
   RandomGame();
   RandomizeCharacters();
