@@ -86,7 +86,7 @@ void HeadlessHost::Run(const ScriptCommand& cmd) {
     }
     case Kind::Dump: {
       std::ofstream f(cmd.file, std::ios::binary | std::ios::trunc);
-      if (f) f << DumpStateText(G) << '\n';
+      if (f) f << DumpStateText(G);
       if (!f || !f.flush()) Fail(cmd, "cannot write " + Quoted(cmd.file));
       break;
     }
