@@ -1,0 +1,139 @@
+#include "platform/headless_host.h"
+
+#include <algorithm>
+#include <cstring>
+#include <fstream>
+#include <sstream>
+
+#include <nlohmann/json.hpp>
+
+#include "platform/shot_png.h"
+#include "shell/game_state.h"
+#include "shell/program.h"
+#include "shell/state_json.h"
+
+namespace lf {
+namespace {
+
+constexpr int kW = 640, kH = 480;
+
+std::uint64_t SplitMix(std::uint64_t x) {
+  x += 0x9E3779B97F4A7C15ull;
+  x = (x ^ (x >> 30)) * 0xBF58476D1CE4E5B9ull;
+  x = (x ^ (x >> 27)) * 0x94D049BB133111EBull;
+  return x ^ (x >> 31);
+}
+
+std::string Quoted(const std::string& file) { return "\"" + file + "\""; }
+
+}  // namespace
+
+std::uint64_t HeadlessSeed(std::uint64_t seed, std::int64_t frame) {
+  return SplitMix(SplitMix(seed) ^ static_cast<std::uint64_t>(frame));
+}
+
+HeadlessHost::HeadlessHost(std::vector<ScriptCommand> script, std::uint64_t seed, std::ostream& err)
+    : script_(std::move(script)), seed_(seed), err_(err), frame_(static_cast<std::size_t>(kW) * kH, 0) {
+  pending_.reserve(16);
+}
+
+void HeadlessHost::PumpInput(std::vector<InputEvent>& out) {
+  while (budget_ == 0) {
+    if (next_ >= script_.size()) throw ProgramEnd{0};
+    Run(script_[next_++]);
+  }
+  --budget_;
+  ++yields_;
+  if (cursorPending_) {
+    cursorX_ = pendingX_;
+    cursorY_ = pendingY_;
+    cursorPending_ = false;
+  }
+  out.insert(out.end(), pending_.begin(), pending_.end());
+  pending_.clear();
+}
+
+void HeadlessHost::Queue(int x, int y, const InputEvent* event) {
+  cursorPending_ = true;
+  pendingX_ = x;
+  pendingY_ = y;
+  if (event) pending_.push_back(*event);
+}
+
+void HeadlessHost::Run(const ScriptCommand& cmd) {
+  using Kind = ScriptCommand::Kind;
+  switch (cmd.kind) {
+    case Kind::Frames:
+      budget_ = cmd.count;
+      break;
+    case Kind::Click:
+    case Kind::RClick: {
+      const InputEvent press{InputEvent::Kind::MouseDown, cmd.kind == Kind::Click ? 1 : 2, 0};
+      Queue(cmd.x, cmd.y, &press);
+      break;
+    }
+    case Kind::Move:
+      Queue(cmd.x, cmd.y, nullptr);
+      break;
+    case Kind::Key:
+      pending_.push_back(InputEvent{InputEvent::Kind::KeyDown, 1, cmd.key});
+      break;
+    case Kind::Shot: {
+      std::string why;
+      if (!WriteScreenshotPng(cmd.file, frame_.data(), kW * 2, why))
+        Fail(cmd, "cannot write " + Quoted(cmd.file) + ": " + why);
+      break;
+    }
+    case Kind::Dump: {
+      std::ofstream f(cmd.file, std::ios::binary | std::ios::trunc);
+      if (f) f << DumpStateText(G);
+      if (!f || !f.flush()) Fail(cmd, "cannot write " + Quoted(cmd.file));
+      break;
+    }
+    case Kind::Restore: {
+      std::ifstream f(cmd.file, std::ios::binary);
+      std::stringstream text;
+      if (!f || !(text << f.rdbuf())) Fail(cmd, "cannot read " + Quoted(cmd.file));
+      nlohmann::json state;
+      try {
+        state = nlohmann::json::parse(text.str());
+      } catch (const nlohmann::json::exception& e) {
+        Fail(cmd, "bad JSON in " + Quoted(cmd.file) + ": " + e.what());
+      }
+      try {
+        RestoreState(G, state);
+      } catch (const RestoreError& e) {
+        Fail(cmd, "cannot restore " + Quoted(cmd.file) + ": " + e.what());
+      }
+      break;
+    }
+    case Kind::Quit:
+      throw ProgramEnd{0};
+  }
+}
+
+void HeadlessHost::Fail(const ScriptCommand& cmd, const std::string& what) {
+  err_ << ScriptError{cmd.line, what}.Message() << std::endl;
+  throw ProgramEnd{2};
+}
+
+void HeadlessHost::Present(const std::uint16_t* pixels, int pitchBytes) {
+  const auto* bytes = reinterpret_cast<const std::uint8_t*>(pixels);
+  for (int y = 0; y < kH; ++y)
+    std::memcpy(frame_.data() + static_cast<std::size_t>(y) * kW, bytes + static_cast<std::ptrdiff_t>(y) * pitchBytes,
+                kW * sizeof(std::uint16_t));
+}
+
+void HeadlessHost::GetCursorPos(int& x, int& y) {
+  x = cursorX_;
+  y = cursorY_;
+}
+
+void HeadlessHost::SetCursorPos(int x, int y) {
+  cursorX_ = std::clamp(x, 0, kW - 1);
+  cursorY_ = std::clamp(y, 0, kH - 1);
+}
+
+std::uint64_t HeadlessHost::ClockSeed() { return HeadlessSeed(seed_, G.Frame); }
+
+}  // namespace lf

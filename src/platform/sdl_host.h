@@ -1,0 +1,61 @@
+// The game in an SDL window: a 640x480 frame scaled by a whole number and
+// letterboxed, fullscreen on Alt+Enter or F11, the system cursor hidden
+// (the game draws its own), 60 frames a second by the performance counter
+// whatever the display's refresh.
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <vector>
+
+#include "platform/frame_pacer.h"
+#include "platform/letterbox.h"
+#include "shell/host.h"
+
+struct SDL_Window;
+struct SDL_Renderer;
+struct SDL_Texture;
+union SDL_Event;
+
+namespace lf {
+
+struct WindowOptions {
+  int scale = 0;  // 0: the largest that fits the desktop, up to 3
+  bool fullscreen = false;
+};
+
+class SdlHost : public Host {
+ public:
+  SdlHost() = default;
+  ~SdlHost() override;
+  SdlHost(const SdlHost&) = delete;
+  SdlHost& operator=(const SdlHost&) = delete;
+
+  // Initialises SDL video and opens the window. False, with `error` set,
+  // when there is no display or the window cannot be made.
+  bool Open(const WindowOptions& options, std::string& error);
+
+  void PumpInput(std::vector<InputEvent>& out) override;
+  void Present(const std::uint16_t* pixels, int pitchBytes) override;
+  void GetCursorPos(int& x, int& y) override;
+  void SetCursorPos(int x, int y) override;
+  void PaceFrame() override;
+  std::uint64_t ClockSeed() override;
+
+ private:
+  void ToggleFullscreen();
+  void HandleEvent(const SDL_Event& e, std::vector<InputEvent>& out);
+  Letterbox MouseBox() const;
+
+  SDL_Window* window_ = nullptr;
+  SDL_Renderer* renderer_ = nullptr;
+  SDL_Texture* texture_ = nullptr;
+  bool videoStarted_ = false;
+  int cursorX_ = 320, cursorY_ = 240;
+  FramePacer pacer_{1, 60};
+};
+
+// The game's code for an SDL key, or 0 for a key the game ignores.
+int GameKeyCode(int sdlKey);
+
+}  // namespace lf
