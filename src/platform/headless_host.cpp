@@ -7,7 +7,7 @@
 
 #include <nlohmann/json.hpp>
 
-#include "platform/shot_png.h"
+#include "display/png_writer.h"
 #include "shell/game_state.h"
 #include "shell/program.h"
 #include "shell/state_json.h"
@@ -79,9 +79,7 @@ void HeadlessHost::Run(const ScriptCommand& cmd) {
       pending_.push_back(InputEvent{InputEvent::Kind::KeyDown, 1, cmd.key});
       break;
     case Kind::Shot: {
-      std::string why;
-      if (!WriteScreenshotPng(cmd.file, frame_.data(), kW * 2, why))
-        Fail(cmd, "cannot write " + Quoted(cmd.file) + ": " + why);
+      if (!WritePng(cmd.file, frame_.data(), kW * 2)) Fail(cmd, "cannot write " + Quoted(cmd.file));
       break;
     }
     case Kind::Dump: {

@@ -183,7 +183,7 @@ TEST_F(HeadlessDriver, AFailingLineEndsTheRunWithStatusTwo) {
       {"restore " + bad.string(), "script:1: bad JSON in \"" + bad.string() + "\": "},
       {"# x\nrestore " + wrongKey.string(), "script:2: cannot restore \"" + wrongKey.string() + "\": "},
       {"dump " + unwritable, "script:1: cannot write \"" + unwritable + "\""},
-      {"shot /nonexistent-folder/x.png", "script:1: cannot write \"/nonexistent-folder/x.png\": "},
+      {"shot /nonexistent-folder/x.png", "script:1: cannot write \"/nonexistent-folder/x.png\""},
   };
   for (const auto& c : cases) {
     ResetGame();
