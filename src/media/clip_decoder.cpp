@@ -7,6 +7,8 @@ extern "C" {
 #include <libswscale/swscale.h>
 }
 
+#include "shell/paths.h"
+
 namespace lf {
 
 struct ClipDecoder::Impl {
@@ -31,6 +33,7 @@ struct ClipDecoder::Impl {
   }
 
   bool Open(const std::string& file) {
+    av_log_set_level(Verbose() ? AV_LOG_WARNING : AV_LOG_QUIET);
     if (avformat_open_input(&format, file.c_str(), nullptr, nullptr) < 0) return false;
     if (avformat_find_stream_info(format, nullptr) < 0) return false;
     const AVCodec* decoder = nullptr;

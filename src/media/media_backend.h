@@ -53,5 +53,7 @@ void SetMediaBackend(MediaBackend* backend);
 // line on stderr, when there is no sound device; the game then runs silent.
 bool OpenAudioBackend();
 void CloseAudioBackend();
+// The track file the sound device plays, empty in silence or when closed.
+std::string AudioBackendTrack();
 
 }  // namespace lf

@@ -67,6 +67,7 @@ class SdlMixerBackend : public MediaBackend {
     Mix_CloseAudio();
     Mix_Quit();
     SDL_QuitSubSystem(SDL_INIT_AUDIO);
+    if (SDL_WasInit(0) == 0) SDL_Quit();  // the last of SDL: free what it keeps
   }
 
   void PlaySound(int channel, const std::string& file) override {
@@ -90,6 +91,11 @@ class SdlMixerBackend : public MediaBackend {
     run_ = files;
     next_ = 0;
     StartNextTrack();
+  }
+
+  std::string Playing() {
+    std::lock_guard lock(mutex_);
+    return music_ && next_ > 0 ? run_[next_ - 1] : std::string();
   }
 
   void StopMusic() override {
@@ -138,7 +144,10 @@ class SdlMixerBackend : public MediaBackend {
   void StartNextTrack() {
     while (next_ < run_.size()) {
       const std::string& file = run_[next_++];
-      music_ = Mix_LoadMUS(file.c_str());
+      // Known by its bytes, not its name: a player's own track in another
+      // format under the same name plays too.
+      SDL_RWops* source = SDL_RWFromFile(file.c_str(), "rb");
+      music_ = source ? Mix_LoadMUS_RW(source, 1) : nullptr;
       if (!music_) {
         ReportMissing(file, "not a playable track");
         continue;
@@ -153,6 +162,11 @@ class SdlMixerBackend : public MediaBackend {
 
   // Moves the run on to the following track when one ends.
   void RunMusic() {
+    RunMusicUntilQuit();
+    SDL_TLSCleanup();  // SDL's error text for this thread
+  }
+
+  void RunMusicUntilQuit() {
     std::unique_lock lock(mutex_);
     while (!quit_) {
       wake_.wait_for(lock, std::chrono::milliseconds(50));
@@ -191,6 +205,8 @@ bool OpenAudioBackend() {
   SetMediaBackend(g_device.get());
   return true;
 }
+
+std::string AudioBackendTrack() { return g_device ? g_device->Playing() : std::string(); }
 
 void CloseAudioBackend() {
   if (!g_device) return;
