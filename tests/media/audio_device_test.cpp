@@ -8,6 +8,7 @@
 #include <fstream>
 #include <thread>
 
+#include "media/temp_folder.h"
 #include "media/media.h"
 #include "media/media_backend.h"
 #include "media/sound_channels.h"
@@ -49,8 +50,7 @@ class AudioDevice : public testing::Test {
  protected:
   void SetUp() override {
     setenv("SDL_AUDIODRIVER", "dummy", 1);
-    folder = std::filesystem::temp_directory_path() /
-             ("lanefarer_device_" + std::to_string(reinterpret_cast<std::uintptr_t>(this)));
+    folder = ScratchFolder("device");
     std::filesystem::create_directories(folder / "music");
     std::filesystem::create_directories(folder / "sounds");
     SetDataFolder(folder.string());

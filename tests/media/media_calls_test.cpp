@@ -6,6 +6,7 @@
 #include <fstream>
 #include <set>
 
+#include "media/temp_folder.h"
 #include "media/media.h"
 #include "media/media_backend.h"
 #include "media/mute.h"
@@ -25,8 +26,7 @@ class MediaCalls : public testing::Test {
     ResetSoundChannels();
     ClearMediaLog();
     SetMediaBackend(&backend);
-    folder = std::filesystem::temp_directory_path() /
-             ("lanefarer_media_" + std::to_string(reinterpret_cast<std::uintptr_t>(this)));
+    folder = ScratchFolder("media");
     std::filesystem::create_directories(folder / "music");
     SetDataFolder(folder.string());
     LoadSoundBank();

@@ -7,6 +7,7 @@
 #include <string>
 #include <vector>
 
+#include "media/temp_folder.h"
 #include "media/wav_reader.h"
 #include "shell/paths.h"
 
@@ -183,8 +184,7 @@ TEST(WavReader, AnOddLengthKeepsWholeSampleFrames) {
 class TempFolder {
  public:
   TempFolder() {
-    path_ = std::filesystem::temp_directory_path() /
-            ("lanefarer_wav_" + std::to_string(reinterpret_cast<std::uintptr_t>(this)));
+    path_ = ScratchFolder("wav");
     std::filesystem::create_directories(path_);
   }
   ~TempFolder() { std::filesystem::remove_all(path_); }
