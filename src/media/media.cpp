@@ -1,6 +1,12 @@
 #include "media/media.h"
 
+#include "media/clip_player.h"
+#include "media/media_backend.h"
+#include "media/music.h"
+#include "media/mute.h"
+#include "media/sound_channels.h"
 #include "shell/game_state.h"
+#include "shell/paths.h"
 
 namespace lf {
 namespace {
@@ -13,7 +19,18 @@ void Record(MediaCall call) {
   g_log.push_back(std::move(call));
 }
 
-void PlayClip(const std::string& file) { Record({MediaCall::Kind::Clip, 0, 0, file}); }
+void PlayClip(const std::string& file) {
+  Record({MediaCall::Kind::Clip, 0, 0, file});
+  PlayClipFile(DataPath(file));
+}
+
+// The disc as the game reads it: track 1 holds data, 2..5 the music, each
+// track starting at its own first frame (a position in tracks, minutes,
+// seconds and frames, with the track in the low byte).
+void ReadTrackTable() {
+  G.TrackCount = kLastMusicTrack;
+  for (int t = 1; t <= kLastMusicTrack; ++t) G.TrackStart[t] = t;
+}
 
 }  // namespace
 
@@ -24,9 +41,30 @@ void LoadSoundBank() {
   for (int i = 1; i <= 33; ++i) G.SoundFile[i] = std::to_string(i) + ".wav";
 }
 
-void PlaySoundFx(int s, int c) { Record({MediaCall::Kind::Sound, s, c, {}}); }
-void PlayTrack(int n) { Record({MediaCall::Kind::Track, n, 0, {}}); }
-void StopTrack() { Record({MediaCall::Kind::StopTrack, 0, 0, {}}); }
+void PlaySoundFx(int s, int c) {
+  Record({MediaCall::Kind::Sound, s, c, {}});
+  const int channel = TakeSoundChannel(c);
+  if (channel < 0 || s < 1 || s > 33) return;  // out of the callers' bounds: the statement fails
+  if (Muted()) return;
+  CurrentMediaBackend().PlaySound(channel, DataPath("sounds/" + G.SoundFile[s]));
+}
+
+void PlayTrack(int n) {
+  Record({MediaCall::Kind::Track, n, 0, {}});
+  ReadTrackTable();
+  if (Muted()) return;
+  const std::vector<std::string> run = TrackRun(n);
+  if (run.empty()) {
+    CurrentMediaBackend().StopMusic();
+  } else {
+    CurrentMediaBackend().PlayMusic(run);
+  }
+}
+
+void StopTrack() {
+  Record({MediaCall::Kind::StopTrack, 0, 0, {}});
+  CurrentMediaBackend().StopMusic();
+}
 
 void Quelmar() { PlayClip("anim/tarvish.mpg"); }
 void Quelmar2() { PlayClip("anim/quelmar.mpg"); }

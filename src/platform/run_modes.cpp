@@ -7,6 +7,9 @@
 
 #include <SDL.h>
 
+#include "media/clip_player.h"
+#include "media/media_backend.h"
+#include "media/mute.h"
 #include "platform/headless_host.h"
 #include "platform/sdl_host.h"
 #include "shell/program.h"
@@ -58,7 +61,11 @@ int RunWindowed(const Options& options) {
       SDL_Quit();
       return 1;
     }
+    SetClipPresenter([&host](const std::uint8_t* rgb, int w, int h) { return host.PresentClipFrame(rgb, w, h); });
+    const bool sound = !Muted() && OpenAudioBackend();
     status = RunOn(host);
+    if (sound) CloseAudioBackend();
+    SetClipPresenter(nullptr);
   }
   SDL_Quit();
   return status;

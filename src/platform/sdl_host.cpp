@@ -31,6 +31,7 @@ int GameKeyCode(int sdlKey) {
 }
 
 SdlHost::~SdlHost() {
+  if (clipTexture_) SDL_DestroyTexture(clipTexture_);
   if (texture_) SDL_DestroyTexture(texture_);
   if (renderer_) SDL_DestroyRenderer(renderer_);
   if (window_) SDL_DestroyWindow(window_);
@@ -150,6 +151,8 @@ void SdlHost::HandleEvent(const SDL_Event& e, std::vector<InputEvent>& out) {
 }
 
 void SdlHost::PumpInput(std::vector<InputEvent>& out) {
+  out.insert(out.end(), heldBack_.begin(), heldBack_.end());
+  heldBack_.clear();
   SDL_Event e;
   while (SDL_PollEvent(&e)) HandleEvent(e, out);
 }
@@ -164,6 +167,35 @@ void SdlHost::Present(const std::uint16_t* pixels, int pitchBytes) {
   SDL_RenderClear(renderer_);
   SDL_RenderCopy(renderer_, texture_, nullptr, &dst);
   SDL_RenderPresent(renderer_);
+}
+
+bool SdlHost::PresentClipFrame(const std::uint8_t* rgb, int w, int h) {
+  if (!clipTexture_ || w != clipW_ || h != clipH_) {
+    if (clipTexture_) SDL_DestroyTexture(clipTexture_);
+    clipTexture_ = SDL_CreateTexture(renderer_, SDL_PIXELFORMAT_RGB24, SDL_TEXTUREACCESS_STREAMING, w, h);
+    clipW_ = w;
+    clipH_ = h;
+  }
+  if (clipTexture_) {
+    SDL_UpdateTexture(clipTexture_, nullptr, rgb, w * 3);
+    int ow = kW, oh = kH;
+    SDL_GetRendererOutputSize(renderer_, &ow, &oh);
+    const Letterbox box = FitFrame(ow, oh);
+    const SDL_Rect dst{box.x, box.y, box.w, box.h};
+    SDL_SetRenderDrawColor(renderer_, 0, 0, 0, 255);
+    SDL_RenderClear(renderer_);
+    SDL_RenderCopy(renderer_, clipTexture_, nullptr, &dst);
+    SDL_RenderPresent(renderer_);
+  }
+  std::vector<InputEvent> events;
+  SDL_Event e;
+  while (SDL_PollEvent(&e)) HandleEvent(e, events);
+  bool goOn = true;
+  for (const InputEvent& ev : events) {
+    if (ev.kind == InputEvent::Kind::Close) heldBack_.push_back(ev);
+    goOn = false;  // a key, a click or a close ends the clip
+  }
+  return goOn;
 }
 
 void SdlHost::GetCursorPos(int& x, int& y) {

@@ -42,6 +42,12 @@ class SdlHost : public Host {
   void PaceFrame() override;
   std::uint64_t ClockSeed() override;
 
+  // Shows one picture of a clip scaled into the window and handles the
+  // window's events: false when a key or click ends the clip (that press is
+  // not passed on to the game) or the window is closed (the close is kept
+  // for the game's next yield).
+  bool PresentClipFrame(const std::uint8_t* rgb, int w, int h);
+
  private:
   void ToggleFullscreen();
   void HandleEvent(const SDL_Event& e, std::vector<InputEvent>& out);
@@ -50,6 +56,9 @@ class SdlHost : public Host {
   SDL_Window* window_ = nullptr;
   SDL_Renderer* renderer_ = nullptr;
   SDL_Texture* texture_ = nullptr;
+  SDL_Texture* clipTexture_ = nullptr;
+  int clipW_ = 0, clipH_ = 0;
+  std::vector<InputEvent> heldBack_;  // a close seen while a clip played
   bool videoStarted_ = false;
   int cursorX_ = 320, cursorY_ = 240;
   FramePacer pacer_{1, 60};

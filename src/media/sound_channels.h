@@ -1,0 +1,18 @@
+// The eight sound channels as the game sees them (SoundChannel): a channel
+// holds the buffer it last played until another sound takes its place, so
+// once all eight have played, a sound on "any channel" cuts a random one.
+#pragma once
+
+namespace lf {
+
+constexpr int kSoundChannels = 8;
+
+// The channel sound goes to for a call with channel c (0..7, or -1 for the
+// lowest channel that holds nothing, else a random one), marked as held;
+// -1 for a channel out of bounds, which plays nothing.
+int TakeSoundChannel(int c);
+bool SoundChannelHeld(int c);
+// All channels empty, as at start.
+void ResetSoundChannels();
+
+}  // namespace lf
