@@ -158,7 +158,7 @@ bool DrawButtons(const BitmapSpec& spec, Canvas& cv) {
     cairo_scale(cr, 0.95, 0.95);
     Pictogram(cr, e->glyph, double(f) / spec.frames, c);
     cairo_restore(cr);
-    if (*e->label) Text(cr, e->label, x + 25, 46, 7, f == 0 ? kAmberDim : kAmber, Align::Center, true, true);
+    if (*e->label) Text(cr, e->label, x + 25, 46, 7, f == 0 ? Rgb{0.85, 0.62, 0.25} : kAmber, Align::Center, true, true);
   }
   return true;
 }

@@ -25,7 +25,7 @@ std::vector<double> GlyphMask(char ch, int w, int h) {
   cairo_font_options_destroy(fo);
   cairo_select_font_face(cr, "DejaVu Sans Mono", CAIRO_FONT_SLANT_NORMAL, CAIRO_FONT_WEIGHT_BOLD);
   // Capitals fill the cell but its last row and column, which space the text.
-  const double cap = h - (h >= 10 ? 2 : 1);
+  const double cap = h - (h >= 10 ? 3 : h >= 8 ? 2 : 1);
   const double size = cap / 0.73;
   cairo_set_font_size(cr, size);
   cairo_set_source_rgba(cr, 1, 1, 1, 1);

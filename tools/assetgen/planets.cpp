@@ -38,7 +38,7 @@ void BodySheet(const BitmapSpec& spec, Canvas& cv, int kind) {
       cairo_save(cr);
       cairo_translate(cr, x + spec.frameW / 2.0, y + spec.frameH / 2.0);
       cairo_scale(cr, 1.0, 0.28);
-      cairo_arc(cr, 0, 0, spec.frameW * 0.49, M_PI, 2 * M_PI);
+      cairo_arc(cr, 0, 0, spec.frameW * 0.49, 0, M_PI);
       cairo_set_source_rgba(cr, 0.85, 0.75, 0.55, 0.9);
       cairo_set_line_width(cr, 4);
       cairo_stroke(cr);

@@ -202,7 +202,7 @@ SurfaceMap MakeSurface(int kind, uint32_t seed, int w, int h) {
         case kSwamp: c = Mix({0.18, 0.26, 0.12}, {0.38, 0.42, 0.20}, n); if (n2 > 0.6) c = Mix(c, {0.15, 0.25, 0.25}, 0.6); break;
         case kGasGiant: {
           const double band = std::sin(v * 24 + n * 5) * 0.5 + 0.5;
-          c = Mix({0.75, 0.55, 0.35}, {0.95, 0.88, 0.70}, band);
+          c = Mix({0.62, 0.40, 0.22}, {0.98, 0.90, 0.72}, band);
           if (n2 > 0.7) c = Mix(c, {0.8, 0.35, 0.2}, 0.6);
           break;
         }

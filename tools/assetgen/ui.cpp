@@ -225,14 +225,14 @@ bool DrawBridgeUi(const BitmapSpec& spec, Canvas& cv) {
       FillRect(cr, 60 + c - 1, 2, 2, 3, kGreen);
       FillRect(cr, 60 + c - 1, 55, 2, 3, kGreen);
     }
-    SetColor(cr, {0.6, 0.1, 0.1});
+    cairo_save(cr);
+    cairo_rectangle(cr, 128, 8, 44, 44);
+    cairo_clip(cr);
+    SetColor(cr, {0.7, 0.12, 0.1});
     for (int i = -40; i < 60; i += 8) {
       cairo_move_to(cr, 120 + 8 + i, 8);
       cairo_line_to(cr, 120 + 8 + i + 44, 52);
     }
-    cairo_save(cr);
-    cairo_rectangle(cr, 128, 8, 44, 44);
-    cairo_clip(cr);
     cairo_stroke(cr);
     cairo_restore(cr);
     SetColor(cr, kRed);
