@@ -6,6 +6,7 @@
 
 #include "families.h"
 #include "noise.h"
+#include "sprites.h"
 
 namespace assetgen {
 namespace {
@@ -13,6 +14,55 @@ namespace {
 constexpr const char* kPostNames[7] = {"", "NAV", "COM", "TAC", "MED", "SCI", "ENG"};
 constexpr Rgb kPostColour[7] = {{0.5, 0.5, 0.5}, {0.3, 0.6, 1.0}, {0.4, 0.9, 0.5}, {1.0, 0.35, 0.3},
                                 {0.95, 0.95, 0.95}, {0.7, 0.5, 1.0}, {1.0, 0.7, 0.2}};
+
+void ComputerFace(cairo_t* cr, double x, double y, double w, double h, int post) {
+  FillRect(cr, x, y, w, h, {0.03, 0.06, 0.08});
+  for (int yy = 0; yy < int(h); yy += 3) FillRect(cr, x, y + yy, w, 1, {0.05, 0.12, 0.14});
+  const Rgb c = kPostColour[post];
+  cairo_set_line_width(cr, 2);
+  SetColor(cr, c);
+  cairo_arc(cr, x + w / 2, y + h * 0.42, w * 0.28, 0, 2 * M_PI);
+  cairo_stroke(cr);
+  cairo_arc(cr, x + w / 2, y + h * 0.42, w * 0.1, 0, 2 * M_PI);
+  cairo_fill(cr);
+  Text(cr, kPostNames[post], x + w / 2, y + h * 0.85, w * 0.16, c, Align::Center, true, true);
+}
+
+// Frame 0: page closed, dim; frame 1: page open, lit with an amber rim.
+void TwoFrames(Canvas& cv, auto&& drawFace) {
+  cairo_t* cr = cv.cr();
+  for (int f = 0; f < 2; ++f) {
+    const double x = f * 80;
+    cairo_save(cr);
+    cairo_rectangle(cr, x, 0, 80, 100);
+    cairo_clip(cr);
+    drawFace(cr, x);
+    if (f == 0) {
+      FillRect(cr, x, 0, 80, 100, {0, 0, 0.02}, 0.35);
+      Bevel(cr, x, 0, 80, 2, kSteel, 0);
+    }
+    cairo_restore(cr);
+    const Rgb rim = f == 1 ? kAmber : kSteelLight;
+    cairo_set_line_width(cr, f == 1 ? 2 : 1);
+    SetColor(cr, rim);
+    cairo_rectangle(cr, x + (f == 1 ? 1 : 0.5), f == 1 ? 1 : 0.5, f == 1 ? 78 : 79, f == 1 ? 98 : 99);
+    cairo_stroke(cr);
+  }
+}
+
+void Backdrop(cairo_t* cr, double x, double w, double h, uint32_t seed, int post) {
+  Rng rng(seed);
+  const Rgb base = Mix({0.08, 0.10, 0.14}, kPostColour[post], 0.18 + 0.1 * rng.Unit());
+  cairo_pattern_t* g = cairo_pattern_create_linear(x, 0, x, h);
+  cairo_pattern_add_color_stop_rgb(g, 0, base.r * 1.4, base.g * 1.4, base.b * 1.4);
+  cairo_pattern_add_color_stop_rgb(g, 1, base.r * 0.5, base.g * 0.5, base.b * 0.5);
+  cairo_set_source(cr, g);
+  cairo_rectangle(cr, x, 0, w, h);
+  cairo_fill(cr);
+  cairo_pattern_destroy(g);
+}
+
+}  // namespace
 
 void Portrait(cairo_t* cr, double x, double y, double w, double h, int race, uint32_t seed) {
   Rng rng(seed);
@@ -29,7 +79,8 @@ void Portrait(cairo_t* cr, double x, double y, double w, double h, int race, uin
     case 4: skin = Mix({0.55, 0.40, 0.75}, {0.70, 0.55, 0.85}, rng.Unit()); break;
     case 5: skin = Mix({0.80, 0.70, 0.35}, {0.90, 0.80, 0.45}, rng.Unit()); break;
     case 6: skin = Mix({0.30, 0.50, 0.75}, {0.45, 0.65, 0.85}, rng.Unit()); break;
-    default: skin = {0.6, 0.62, 0.66}; break;  // computers and heroes use it
+    case 7: skin = Mix({0.75, 0.55, 0.45}, {0.55, 0.45, 0.40}, rng.Unit()); break;
+    default: skin = {0.6, 0.62, 0.66}; break;
   }
   // shoulders in a uniform
   const Rgb uniform = Mix({0.15, 0.18, 0.25}, Scale(skin, 0.4), 0.2);
@@ -120,6 +171,19 @@ void Portrait(cairo_t* cr, double x, double y, double w, double h, int race, uin
     SetColor(cr, iris);
     cairo_fill(cr);
   }
+  if (race == 7) {  // pirates: a patch over one eye and a scar
+    cairo_arc(cr, cx + ex, ey, er * 1.4, 0, 2 * M_PI);
+    SetColor(cr, {0.08, 0.08, 0.08});
+    cairo_fill(cr);
+    cairo_set_line_width(cr, 1.2 * s);
+    cairo_move_to(cr, cx - hw, ey - hh * 0.5);
+    cairo_line_to(cr, cx + hw, ey - hh * 0.2);
+    cairo_stroke(cr);
+    cairo_move_to(cr, cx - ex - 5 * s, ey + 6 * s);
+    cairo_line_to(cr, cx - ex + 3 * s, ey + 14 * s);
+    SetColor(cr, {0.6, 0.25, 0.25});
+    cairo_stroke(cr);
+  }
   // mouth and nose
   cairo_set_line_width(cr, 1.5 * s);
   SetColor(cr, Scale(skin, 0.4));
@@ -134,55 +198,6 @@ void Portrait(cairo_t* cr, double x, double y, double w, double h, int race, uin
     cairo_stroke(cr);
   }
 }
-
-void ComputerFace(cairo_t* cr, double x, double y, double w, double h, int post) {
-  FillRect(cr, x, y, w, h, {0.03, 0.06, 0.08});
-  for (int yy = 0; yy < int(h); yy += 3) FillRect(cr, x, y + yy, w, 1, {0.05, 0.12, 0.14});
-  const Rgb c = kPostColour[post];
-  cairo_set_line_width(cr, 2);
-  SetColor(cr, c);
-  cairo_arc(cr, x + w / 2, y + h * 0.42, w * 0.28, 0, 2 * M_PI);
-  cairo_stroke(cr);
-  cairo_arc(cr, x + w / 2, y + h * 0.42, w * 0.1, 0, 2 * M_PI);
-  cairo_fill(cr);
-  Text(cr, kPostNames[post], x + w / 2, y + h * 0.85, w * 0.16, c, Align::Center, true, true);
-}
-
-// Frame 0: page closed, dim; frame 1: page open, lit with an amber rim.
-void TwoFrames(Canvas& cv, auto&& drawFace) {
-  cairo_t* cr = cv.cr();
-  for (int f = 0; f < 2; ++f) {
-    const double x = f * 80;
-    cairo_save(cr);
-    cairo_rectangle(cr, x, 0, 80, 100);
-    cairo_clip(cr);
-    drawFace(cr, x);
-    if (f == 0) {
-      FillRect(cr, x, 0, 80, 100, {0, 0, 0.02}, 0.35);
-      Bevel(cr, x, 0, 80, 2, kSteel, 0);
-    }
-    cairo_restore(cr);
-    const Rgb rim = f == 1 ? kAmber : kSteelLight;
-    cairo_set_line_width(cr, f == 1 ? 2 : 1);
-    SetColor(cr, rim);
-    cairo_rectangle(cr, x + (f == 1 ? 1 : 0.5), f == 1 ? 1 : 0.5, f == 1 ? 78 : 79, f == 1 ? 98 : 99);
-    cairo_stroke(cr);
-  }
-}
-
-void Backdrop(cairo_t* cr, double x, double w, double h, uint32_t seed, int post) {
-  Rng rng(seed);
-  const Rgb base = Mix({0.08, 0.10, 0.14}, kPostColour[post], 0.18 + 0.1 * rng.Unit());
-  cairo_pattern_t* g = cairo_pattern_create_linear(x, 0, x, h);
-  cairo_pattern_add_color_stop_rgb(g, 0, base.r * 1.4, base.g * 1.4, base.b * 1.4);
-  cairo_pattern_add_color_stop_rgb(g, 1, base.r * 0.5, base.g * 0.5, base.b * 0.5);
-  cairo_set_source(cr, g);
-  cairo_rectangle(cr, x, 0, w, h);
-  cairo_fill(cr);
-  cairo_pattern_destroy(g);
-}
-
-}  // namespace
 
 bool DrawFaces(const BitmapSpec& spec, Canvas& cv) {
   const std::string_view p = spec.path;

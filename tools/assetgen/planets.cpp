@@ -56,7 +56,7 @@ void OrbitPicture(const BitmapSpec& spec, Canvas& cv, int kind, int variant, int
   // the body fills the lower part of the view, seen from orbit
   const double r = 260 + 40 * (variant % 3);
   const double cx = 200 + rng.Range(-80, 80), cy = 240 + r * 0.62;
-  Sphere(cv, map, kind, cx, cy, r, rng.Unit(), 0.45);
+  Sphere(cv, map, kind, cx, cy, r, rng.Unit(), -0.55);
   if (quadrant > 0) {
     // the station hangs above the planet, larger in later quadrants' styles
     const int style = (quadrant - 1) % 4 + 1;

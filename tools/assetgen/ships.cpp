@@ -69,27 +69,10 @@ void HailPicture(Canvas& cv, int shipClass, int variant, uint32_t seed) {
     ShipShape(cr, 200 + rng.Range(-60, 60), 95, 110 + variant * 10, M_PI / 2 + rng.Range(-0.5, 0.5), info.race,
               info.hullClass);
   } else {
-    // the captain: a silhouette with the race's accent lights
-    const Rgb acc = RaceAccent(info.race);
-    cairo_arc(cr, 200, 105, 42, 0, 2 * M_PI);
-    SetColor(cr, Scale(RaceHull(info.race), 0.6));
-    cairo_fill(cr);
-    cairo_move_to(cr, 110, 240);
-    cairo_curve_to(cr, 120, 160, 280, 160, 290, 240);
-    cairo_fill(cr);
-    for (double ex : {182.0, 218.0}) {
-      cairo_arc(cr, ex, 100, 6, 0, 2 * M_PI);
-      SetColor(cr, info.race == 7 ? Rgb{1, 0.1, 0.1} : acc);
-      cairo_fill(cr);
-      if (info.race == 7) break;  // the pirate's one eye
-    }
-    if (info.race == 7) {
-      cairo_set_line_width(cr, 4);
-      SetColor(cr, {0.1, 0.1, 0.1});
-      cairo_move_to(cr, 165, 80);
-      cairo_line_to(cr, 240, 95);
-      cairo_stroke(cr);
-    }
+    // the other captain on the screen
+    FillRect(cr, 110, 10, 180, 190, Mix({0.05, 0.06, 0.08}, RaceAccent(info.race), 0.15));
+    Portrait(cr, 125, 15, 150, 188, info.race, seed);
+    Bevel(cr, 110, 10, 180, 190, kSteelLight, 0);
   }
   // console with blinking lamps
   for (int i = 0; i < 14; ++i) {

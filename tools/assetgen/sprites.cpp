@@ -161,10 +161,14 @@ void ShipShape(cairo_t* cr, double cx, double cy, double length, double angle, i
 }
 
 Rgb SurfaceMap::Sample(double u, double v) const {
-  u -= std::floor(u);
-  const int x = std::min(w - 1, int(u * w));
-  const int y = std::clamp(int(v * h), 0, h - 1);
-  return texels[size_t(y) * w + x];
+  // bilinear, wrapping in u
+  const double fx = (u - std::floor(u)) * w - 0.5, fy = std::clamp(v * h - 0.5, 0.0, h - 1.0);
+  const int x0 = int(std::floor(fx)), y0 = int(fy);
+  const double tx = fx - x0, ty = fy - y0;
+  const int xa = (x0 % w + w) % w, xb = (xa + 1) % w, y1 = std::min(h - 1, y0 + 1);
+  const Rgb a = texels[size_t(y0) * w + xa], b = texels[size_t(y0) * w + xb];
+  const Rgb c = texels[size_t(y1) * w + xa], d = texels[size_t(y1) * w + xb];
+  return Mix(Mix(a, b, tx), Mix(c, d, tx), ty);
 }
 
 double SurfaceMap::Cloud(double u, double v) const {

@@ -33,6 +33,10 @@ void Sphere(Canvas& cv, const SurfaceMap& map, int kind, double cx, double cy, d
 // A station of style 1..4 seen from above, turned by angle.
 void StationShape(cairo_t* cr, double cx, double cy, double radius, double angle, int style);
 
+// A stylised portrait of a person of race 1..7 in the w x h box; the seed
+// picks the person.
+void Portrait(cairo_t* cr, double x, double y, double w, double h, int race, uint32_t seed);
+
 // A fireball of progress t 0..1 (grows, then fades) at (cx, cy), size r.
 void Fireball(cairo_t* cr, double cx, double cy, double r, double t, uint32_t seed);
 
