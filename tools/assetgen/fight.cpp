@@ -45,20 +45,29 @@ void FightBack(Canvas& cv, uint32_t seed) {
   Recess(cr, 250, 345, 118, 112);
   Recess(cr, 376, 346, 50, 113);
   Recess(cr, 446, 346, 74, 100);
-  Text(cr, "FREE", 456, 458, 7, kCyanDim, Align::Center, true, true);
-  Text(cr, "WPN", 483, 458, 7, kCyanDim, Align::Center, true, true);
-  Text(cr, "SHD", 510, 458, 7, kCyanDim, Align::Center, true, true);
+  Text(cr, "PWR", 456, 341, 7, kCyanDim, Align::Center, true, true);
+  Text(cr, "WPN", 483, 341, 7, kCyanDim, Align::Center, true, true);
+  Text(cr, "SHD", 510, 341, 7, kCyanDim, Align::Center, true, true);
   // range scale at the right
-  Recess(cr, 560, 50, 36, 340);
+  Recess(cr, 560, 52, 36, 338);
   for (int i = 0; i <= 10; ++i) FillRect(cr, 590, 55 + i * 31, 6, 1, kCyanDim);
   Text(cr, "RANGE", 578, 404, 8, kCyan, Align::Center, true, true);
-  // flee, self-destruct and surrender buttons; the 90x9 picture sits at (18,39)
-  static constexpr const char* kButtons[] = {"FLEE", "DESTRUCT", "SURRENDER"};
-  for (int i = 0; i < 3; ++i) {
-    Bevel(cr, 530 + 0, 410 + i * 22, 100, 18, kSteel, 2);
-    Text(cr, kButtons[i], 580, 423 + i * 22, 8, kAmber, Align::Center, true, true);
-  }
+  // flee (y 16..25) and self-destruct (y 25..39) over the surrender picture at (18,39)
+  Bevel(cr, 18, 15, 92, 11, {0.25, 0.35, 0.30}, 1);
+  Text(cr, "FLEE", 64, 24, 8, kGreen, Align::Center, true, true);
+  Bevel(cr, 18, 26, 92, 13, {0.40, 0.15, 0.12}, 1);
+  Text(cr, "SELF-DESTRUCT", 64, 36, 8, {1.0, 0.6, 0.5}, Align::Center, true, true);
   Recess(cr, 18, 39, 90, 9);
+  // range orders: farther (y 429..441) and closer (y above 445), x 535..618
+  Bevel(cr, 536, 429, 82, 13, kSteel, 1);
+  Text(cr, "FARTHER", 577, 439, 8, kAmber, Align::Center, true, true);
+  Bevel(cr, 536, 447, 82, 13, kSteel, 1);
+  Text(cr, "CLOSER", 577, 457, 8, kAmber, Align::Center, true, true);
+  // power transfer: weapons to shields (x 474..494), shields to weapons (x 499..519), y 449..463
+  Bevel(cr, 475, 450, 19, 13, kSteel, 1);
+  Text(cr, ">", 484.5, 460, 9, kCyan, Align::Center, true, true);
+  Bevel(cr, 500, 450, 19, 13, kSteel, 1);
+  Text(cr, "<", 509.5, 460, 9, kCyan, Align::Center, true, true);
   Recess(cr, 125, 303, 390, 20);
 }
 
@@ -261,7 +270,7 @@ bool DrawFight(const BitmapSpec& spec, Canvas& cv) {
       cairo_save(cr);
       cairo_rectangle(cr, f * 200, 0, 200, 195);
       cairo_clip(cr);
-      Fireball(cr, f * 200 + 100, 97, 95, (f + 0.5) / spec.frames, seed);
+      Fireball(cr, f * 200 + 100, 97, 120, 0.15 + 0.85 * (f + 0.5) / spec.frames, seed);
       cairo_restore(cr);
     }
     return true;
@@ -288,7 +297,7 @@ bool DrawFight(const BitmapSpec& spec, Canvas& cv) {
       BeamShot(cv, spec.frames, seed, kBeams[(m - 1) % 12]);
     } else {
       const int m = StartsWith(w, "r_") ? NumberAfter(w, "r_") : w == "rapier.bmp" ? 12 : 13;
-      MissileShot(cv, spec.frames, seed, m >= 12 ? kCyan : Mix(kRed, kAmber, (m % 4) / 3.0), 4 + m % 4);
+      MissileShot(cv, spec.frames, seed, m >= 12 ? kCyan : Mix(kRed, kAmber, (m % 4) / 3.0), 6 + 1.5 * (m % 4));
     }
     return true;
   }

@@ -23,7 +23,7 @@ void NoiseCloud(Canvas& cv, uint32_t seed, Rgb a, Rgb b, double scale, double th
       const double v = (n - threshold) / (1 - threshold);
       if (v <= 0.02) continue;
       const double m = Fbm(x / scale * 2, y / scale * 2, seed + 5, 3);
-      Rgb c = Scale(Mix(a, b, m), std::min(1.0, 0.15 + v * 1.6));
+      Rgb c = Scale(Mix(a, b, m), std::min(1.0, 0.04 + v * 1.8));
       auto ch = [](double t) { return uint32_t(std::clamp(t, 0.0, 1.0) * 255 + 0.5); };
       row[x] = 0xff000000u | (ch(c.r) << 16) | (ch(c.g) << 8) | ch(c.b);
     }
