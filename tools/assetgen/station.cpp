@@ -1,0 +1,297 @@
+// The station: screen backgrounds, service pictures, map markers, buttons,
+// guild and news pictures, and the dealer's turntables of components and hulls.
+#include <cmath>
+#include <string>
+
+#include "families.h"
+#include "noise.h"
+#include "sprites.h"
+
+namespace assetgen {
+namespace {
+
+void Frame(cairo_t* cr, double x, double y, double w, double h, Rgb c) {
+  Bevel(cr, x - 2, y - 2, w + 4, h + 4, kSteel, -2);
+  FillRect(cr, x, y, w, h, {0.03, 0.05, 0.06});
+  cairo_set_line_width(cr, 1);
+  SetColor(cr, Scale(c, 0.4));
+  cairo_rectangle(cr, x + 0.5, y + 0.5, w - 1, h - 1);
+  cairo_stroke(cr);
+}
+
+void StationScreen(Canvas& cv, std::string_view name, uint32_t seed) {
+  cairo_t* cr = cv.cr();
+  SteelPlate(cr, 0, 0, 640, 480, seed);
+  std::string title = "TERMINAL";
+  if (name == "bar") title = "MEETING LOUNGE";
+  if (name == "commodity") title = "COMMODITY EXCHANGE";
+  if (name == "ship_dealer") title = "SHIP DEALER";
+  if (name == "fleet_office") title = "FLEET OFFICE";
+  if (name == "exploration") title = "EXPLORATION GUILD";
+  if (name == "merchant") title = "MERCHANT GUILD";
+  if (name == "mercenary") title = "MERCENARY GUILD";
+  Text(cr, title, 320, 18, 12, kAmber, Align::Center, true, true);
+  if (StartsWith(name, "terminal")) {
+    Frame(cr, 20, 30, 320, 300, kCyan);           // station map
+    StationShape(cr, 180, 180, 120, 0.2, (NumberAfter(name, "terminal_") - 1) % 4 + 1);
+    Frame(cr, 350, 30, 250, 170, kCyan);          // log-on text
+    Frame(cr, 360, 200, 240, 205, kAmber);        // services
+    Frame(cr, 484, 338, 100, 100, kAmber);        // service picture
+    Frame(cr, 606, 100, 30, 72, kCyan);           // yes / no
+  } else if (name == "commodity") {
+    Frame(cr, 10, 110, 620, 276, kCyan);
+    for (int i = 0; i < 14; ++i) FillRect(cr, 12, 113 + 19 * i + 18, 616, 1, {0.1, 0.25, 0.3});
+    for (double x : {98.0, 125.0, 494.0, 516.0}) FillRect(cr, x, 112, 1, 272, {0.1, 0.25, 0.3});
+    Text(cr, "STOCK", 40, 100, 9, kCyanDim, Align::Center, true, true);
+    Text(cr, "SELL", 170, 100, 9, kCyanDim, Align::Center, true, true);
+    Text(cr, "GOODS", 320, 100, 9, kCyanDim, Align::Center, true, true);
+    Text(cr, "BUY", 430, 100, 9, kCyanDim, Align::Center, true, true);
+    Text(cr, "CARGO", 560, 100, 9, kCyanDim, Align::Center, true, true);
+    Frame(cr, 10, 424, 220, 34, kAmber);
+    Frame(cr, 505, 424, 109, 34, kAmber);
+    Text(cr, "EXIT", 560, 446, 12, kAmber, Align::Center);
+  } else if (name == "ship_dealer") {
+    Frame(cr, 14, 20, 200, 200, kCyan);
+    Frame(cr, 262, 30, 360, 130, kCyan);
+    static constexpr const char* kGroups[] = {"HULLS", "BEAMS", "LAUNCHERS", "SHIELDS", "GENERATORS", "PROPULSION",
+                                              "SENSORS", "COMPUTERS", "UNFITTED"};
+    for (int i = 0; i < 9; ++i) {
+      const double x = 240 + (i / 3) * 127, y = 168 + (i % 3) * 23;
+      Bevel(cr, x, y, 113, 16, kSteel, 1);
+      Text(cr, kGroups[i], x + 56, y + 12, 8, kCyan, Align::Center, true, true);
+    }
+    Frame(cr, 20, 244, 230, 150, kCyan);
+    Frame(cr, 350, 244, 200, 280 - 40, kCyan);
+    Frame(cr, 10, 424, 220, 34, kAmber);
+    Frame(cr, 505, 424, 109, 34, kAmber);
+    Text(cr, "EXIT", 560, 446, 12, kAmber, Align::Center);
+  } else {
+    Frame(cr, 58, 270, 80, 100, kAmber);           // picture
+    Frame(cr, 160, 50, 460, 195, kCyan);           // menu
+    Frame(cr, 160, 262, 460, 150, kCyan);          // text
+    Frame(cr, 505, 424, 109, 34, kAmber);
+    Text(cr, "EXIT", 560, 446, 12, kAmber, Align::Center);
+  }
+}
+
+void ServicePicture(Canvas& cv, std::string_view name, uint32_t seed) {
+  cairo_t* cr = cv.cr();
+  FillRect(cr, 0, 0, 100, 100, {0.03, 0.05, 0.08});
+  Stars(cv, seed, 30, 0.5);
+  std::string label;
+  if (name == "_denied") {
+    cairo_set_line_width(cr, 6);
+    SetColor(cr, kRed);
+    cairo_arc(cr, 50, 45, 26, 0, 2 * M_PI);
+    cairo_stroke(cr);
+    cairo_move_to(cr, 32, 27); cairo_line_to(cr, 68, 63); cairo_stroke(cr);
+    label = "DENIED";
+  } else if (name == "_bar") {
+    for (int i = 0; i < 3; ++i) {
+      cairo_move_to(cr, 25 + i * 20, 25); cairo_line_to(cr, 37 + i * 20, 25); cairo_line_to(cr, 31 + i * 20, 45); cairo_close_path(cr);
+      SetColor(cr, i == 1 ? kAmber : kCyan); cairo_fill(cr); FillRect(cr, 30 + i * 20, 45, 2, 15, kSteelLight);
+    }
+    label = "LOUNGE";
+  } else if (name == "_commodity") {
+    for (int i = 0; i < 6; ++i) { cairo_rectangle(cr, 20 + (i % 3) * 21, 25 + (i / 3) * 18, 18, 15); SetColor(cr, Mix(kAmberDim, kAmber, i / 6.0)); cairo_fill(cr); }
+    label = "EXCHANGE";
+  } else if (name == "_dealer") {
+    ShipShape(cr, 50, 45, 55, M_PI / 2, 1, 3);
+    label = "DEALER";
+  } else if (name == "_explor") {
+    const SurfaceMap map = MakeSurface(kTerran, seed, 64, 32);
+    Sphere(cv, map, kTerran, 50, 45, 24, 0.3);
+    label = "EXPLORERS";
+  } else if (name == "_fed") {
+    cairo_move_to(cr, 50, 15); for (int i = 1; i <= 10; ++i) { const double r = i % 2 ? 12 : 28;
+      cairo_line_to(cr, 50 + std::sin(i * M_PI / 5) * r, 45 - std::cos(i * M_PI / 5) * r); }
+    cairo_close_path(cr); SetColor(cr, kAmber); cairo_fill(cr);
+    label = "FLEET";
+  } else if (name == "_mercenary") {
+    cairo_set_line_width(cr, 5); SetColor(cr, kSteelLight);
+    cairo_move_to(cr, 25, 70); cairo_line_to(cr, 75, 20); cairo_move_to(cr, 25, 20); cairo_line_to(cr, 75, 70); cairo_stroke(cr);
+    label = "MERCENARY";
+  } else {
+    cairo_arc(cr, 50, 45, 22, 0, 2 * M_PI); SetColor(cr, kAmber); cairo_fill(cr);
+    Text(cr, "$", 50, 55, 28, {0.3, 0.2, 0.05}, Align::Center);
+    label = "MERCHANTS";
+  }
+  Text(cr, label, 50, 92, 10, kCyan, Align::Center, true, true);
+  Bevel(cr, 0, 0, 100, 2, kSteel, 0);
+}
+
+// One turntable frame of a component or a hull.
+void Turntable(Canvas& cv, int group, int model, int race, int hullClass, int frames) {
+  cairo_t* cr = cv.cr();
+  for (int f = 0; f < frames; ++f) {
+    const double x = f * 200, a = 2 * M_PI * f / frames;
+    cairo_save(cr);
+    cairo_rectangle(cr, x, 0, 200, 200);
+    cairo_clip(cr);
+    // floor ring
+    cairo_save(cr);
+    cairo_translate(cr, x + 100, 160);
+    cairo_scale(cr, 1, 0.25);
+    cairo_arc(cr, 0, 0, 80, 0, 2 * M_PI);
+    cairo_restore(cr);
+    cairo_set_source_rgb(cr, 0.10, 0.30, 0.35);
+    cairo_set_line_width(cr, 2);
+    cairo_stroke(cr);
+    if (group == 10) {
+      cairo_save(cr);
+      cairo_translate(cr, x + 100, 100);
+      cairo_scale(cr, 1, 0.55 + 0.2 * std::cos(a));
+      ShipShape(cr, 0, 0, 150, a, race, hullClass);
+      cairo_restore(cr);
+    } else {
+      // a machine: a box with fins whose look depends on group and model
+      const Rgb body = Mix({0.45, 0.48, 0.55}, RaceAccent(1 + (model % 6)), 0.25);
+      const double w = 40 + 6 * (model % 4), h = 50 + 5 * (model % 3);
+      const double c = std::cos(a), s = std::sin(a);
+      const double bx = x + 100, by = 95;
+      for (int face = 0; face < 2; ++face) {
+        const double sgn = face ? 1 : -1, k = face ? s : c;
+        cairo_move_to(cr, bx, by - h / 2);
+        cairo_line_to(cr, bx + sgn * w * std::fabs(k), by - h / 2 - 8 * std::fabs(k));
+        cairo_line_to(cr, bx + sgn * w * std::fabs(k), by + h / 2 - 8 * std::fabs(k));
+        cairo_line_to(cr, bx, by + h / 2);
+        cairo_close_path(cr);
+        SetColor(cr, Scale(body, face ? 0.6 + 0.3 * std::fabs(s) : 0.6 + 0.3 * std::fabs(c)));
+        cairo_fill(cr);
+      }
+      // group marks
+      const Rgb glow = group == 1 ? kRed : group == 3 ? kAmber : group == 7 ? kCyan : group == 4 ? kGreen : kWhite;
+      cairo_arc(cr, bx, by - h / 2 - 10, 6 + 2 * std::sin(a * 2), 0, 2 * M_PI);
+      SetColor(cr, glow);
+      cairo_fill(cr);
+      if (group == 1 || group == 3) {
+        cairo_set_line_width(cr, 5);
+        SetColor(cr, Scale(body, 0.5));
+        cairo_move_to(cr, bx, by);
+        cairo_line_to(cr, bx + 60 * c, by - 20 - 10 * s);
+        cairo_stroke(cr);
+      }
+    }
+    cairo_restore(cr);
+  }
+}
+
+}  // namespace
+
+bool DrawStation(const BitmapSpec& spec, Canvas& cv) {
+  const std::string_view p = spec.path;
+  if (!StartsWith(p, "gfx/station/")) return false;
+  const uint32_t seed = HashString(spec.path);
+  cairo_t* cr = cv.cr();
+  if (StartsWith(p, "gfx/station/a_backs/")) {
+    std::string_view n = p.substr(20);
+    StationScreen(cv, n.substr(0, n.size() - 4), seed);
+    return true;
+  }
+  if (StartsWith(p, "gfx/station/small/")) {
+    std::string_view n = p.substr(18);
+    ServicePicture(cv, n.substr(0, n.size() - 4), seed);
+    return true;
+  }
+  if (StartsWith(p, "gfx/station/comps/10_")) {
+    const std::string_view n = p.substr(21);
+    Turntable(cv, 10, 0, n[0] - '0', n[2] - '0', spec.frames);
+    return true;
+  }
+  if (StartsWith(p, "gfx/station/comps/")) {
+    const std::string_view n = p.substr(18);
+    const int g = NumberAfter(n, "");
+    const int m = NumberAfter(n.substr(n.find('_') + 1), "");
+    Turntable(cv, g, m, 0, 0, spec.frames);
+    return true;
+  }
+  const std::string_view n = p.substr(19);  // after a_misc/
+  if (n == "marker.bmp" || n == "marker2.bmp") {
+    for (int f = 0; f < spec.frames; ++f) {
+      const double cx = f * spec.frameW + spec.frameW / 2.0, cy = spec.frameH / 2.0;
+      const double r = spec.frameH * (0.15 + 0.3 * f / spec.frames);
+      cairo_set_line_width(cr, 2);
+      SetColor(cr, Mix(kAmber, kRed, double(f) / spec.frames));
+      cairo_arc(cr, cx, cy, r, 0, 2 * M_PI);
+      cairo_stroke(cr);
+      FillRect(cr, cx - 2, cy - 2, 4, 4, kAmber);
+    }
+    return true;
+  }
+  if (n == "yes.bmp" || n == "no.bmp" || n == "yes2.bmp" || n == "yes3.bmp") {
+    const bool no = n == "no.bmp";
+    const char* label = n == "yes.bmp" ? "YES" : no ? "NO" : "OK";
+    for (int f = 0; f < 2; ++f) {
+      const double x = f * spec.frameW;
+      Bevel(cr, x, 0, spec.frameW, spec.frameH, f ? Rgb{0.35, 0.40, 0.45} : kSteel, f ? -2 : 2);
+      const Rgb c = no ? kRed : kGreen;
+      if (n == "yes3.bmp") {
+        cairo_set_line_width(cr, 2.5);
+        SetColor(cr, f ? kWhite : c);
+        cairo_move_to(cr, x + 5, 11);
+        cairo_line_to(cr, x + 9, 15);
+        cairo_line_to(cr, x + 16, 6);
+        cairo_stroke(cr);
+      } else {
+        Text(cr, label, x + spec.frameW / 2.0, spec.frameH / 2.0 + 4, 10, f ? kWhite : c, Align::Center);
+      }
+    }
+    return true;
+  }
+  if (n == "dealer_butts.bmp") {
+    static constexpr const char* kLabels[] = {"BUY", "FIT", "SELL", "REPAIR"};
+    for (int b = 0; b < 4; ++b) {
+      for (int hot = 0; hot < 2; ++hot) {
+        const double x = b * 20, y = hot * 150;
+        Bevel(cr, x, y, 20, 150, hot ? Rgb{0.5, 0.35, 0.1} : kSteel, 2);
+        cairo_save(cr);
+        cairo_translate(cr, x + 14, y + 75);
+        cairo_rotate(cr, -M_PI / 2);
+        Text(cr, kLabels[b], 0, 0, 11, hot ? kWhite : kAmber, Align::Center);
+        cairo_restore(cr);
+      }
+    }
+    return true;
+  }
+  if (n == "guilds.bmp") {
+    static constexpr const char* kBoards[] = {"EXPLORE", "MERCHANT", "MERCENARY", "FLEET", "SPECIAL"};
+    for (int b = 0; b < 5; ++b) {
+      const double x = b * 80;
+      FillRect(cr, x, 0, 80, 100, Mix(kSteelDark, RaceAccent(b + 1), 0.2));
+      cairo_move_to(cr, x + 40, 15);
+      for (int i = 1; i <= 12; ++i) {
+        const double r = i % 2 ? 12 : 26;
+        cairo_line_to(cr, x + 40 + std::sin(i * M_PI / 6) * r, 45 - std::cos(i * M_PI / 6) * r);
+      }
+      cairo_close_path(cr);
+      SetColor(cr, b == 4 ? kRed : RaceAccent(b + 1));
+      cairo_fill(cr);
+      Text(cr, kBoards[b], x + 40, 90, 9, kWhite, Align::Center, true, true);
+      Bevel(cr, x, 0, 80, 100, kSteel, 0);
+    }
+    return true;
+  }
+  if (n == "select.bmp") {
+    cairo_set_line_width(cr, 2);
+    SetColor(cr, kAmber);
+    cairo_rectangle(cr, 1, 1, 120, 12);
+    cairo_stroke(cr);
+    return true;
+  }
+  if (n == "news.bmp") {
+    for (int row = 0; row < 2; ++row) {
+      for (int i = 0; i < 7; ++i) {
+        const double x = i * 80, y = row * 100;
+        Rng rng(seed + uint32_t(row * 7 + i));
+        FillRect(cr, x, y, 80, 100, row ? Rgb{0.15, 0.04, 0.04} : Rgb{0.04, 0.08, 0.15});
+        ShipShape(cr, x + 40, y + 45, 40, rng.Range(0, 6.28), row ? 7 : 1 + rng.Int(6), 1 + rng.Int(4));
+        Text(cr, row ? "PIRATE NEWS" : "NEWS", x + 40, y + 90, 8, row ? kRed : kCyan, Align::Center, true, true);
+        Bevel(cr, x, y, 80, 100, kSteel, 0);
+      }
+    }
+    return true;
+  }
+  return false;
+}
+
+}  // namespace assetgen
