@@ -1,0 +1,160 @@
+// Runs the game headless on the scripts beside this file and checks what
+// their dumps and screenshots show.
+#include <gtest/gtest.h>
+
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <sstream>
+#include <string>
+
+#include <nlohmann/json.hpp>
+
+namespace {
+
+namespace fs = std::filesystem;
+using nlohmann::json;
+
+// A scratch folder holding copies of the scenario files, where a script's
+// relative paths land.
+class Scenario : public ::testing::Test {
+ protected:
+  void SetUp() override {
+    const auto* info = ::testing::UnitTest::GetInstance()->current_test_info();
+    dir = fs::temp_directory_path() / ("lanefarer_scenario_" + std::string(info->name()) + "_" +
+                                       std::to_string(::getpid()));
+    fs::remove_all(dir);
+    fs::create_directories(dir);
+    for (const auto& entry : fs::directory_iterator(LANEFARER_SCENARIOS))
+      if (entry.path().extension() == ".txt" || entry.path().extension() == ".json")
+        fs::copy_file(entry.path(), dir / entry.path().filename());
+  }
+  void TearDown() override { fs::remove_all(dir); }
+
+  // The data folder: the generated set when the build has one, else none.
+  static std::string Data() {
+    const char* d = std::getenv("LANEFARER_TEST_DATA");
+    return d ? d : "/nonexistent-lanefarer-data";
+  }
+
+  int Run(const std::string& script, const std::string& seed = "5", const std::string& data = Data()) {
+    const std::string cmd = "cd '" + dir.string() + "' && '" LANEFARER_BINARY "' --headless --seed " + seed +
+                            " --data '" + data + "' --save-dir '" + (dir / "save").string() + "' --script " +
+                            script + " > out.txt 2> err.txt";
+    const int raw = std::system(cmd.c_str());
+    return WIFEXITED(raw) ? WEXITSTATUS(raw) : -1;
+  }
+
+  json Dump(const std::string& name) const {
+    std::ifstream f(dir / name);
+    EXPECT_TRUE(f) << name;
+    return json::parse(f);
+  }
+  std::string Bytes(const std::string& name) const {
+    std::ifstream f(dir / name, std::ios::binary);
+    std::stringstream s;
+    s << f.rdbuf();
+    return s.str();
+  }
+
+  fs::path dir;
+};
+
+TEST_F(Scenario, NewGameWaitsOnTheOpeningPictureThenDocks) {
+  ASSERT_EQ(Run("new_game.txt"), 0) << Bytes("err.txt");
+  const json picture = Dump("picture.json");
+  EXPECT_EQ(picture["MenuActive"], 0);
+  EXPECT_EQ(picture["BridgeActive"], -1);
+  EXPECT_EQ(picture["StationActive"], 0);  // still on the picture
+  EXPECT_EQ(picture["ClickSeen"], 0);
+
+  const json docked = Dump("docked.json");
+  EXPECT_EQ(docked["StationActive"], -1);
+  EXPECT_EQ(docked["BridgeActive"], 0);
+  EXPECT_EQ(docked["StatusSlot"][12]["Active"], -1);
+  EXPECT_EQ(docked["NoGameRunning"], 0);
+  EXPECT_EQ(docked["Cash"], 50000.0);
+  EXPECT_EQ(docked["CurrentQuadrant"], 1);
+  EXPECT_GE(docked["PlanetCount"].get<int>(), 50);
+  EXPECT_LE(docked["PlanetCount"].get<int>(), 70);
+  EXPECT_EQ(docked["OrbitState"], 3);
+}
+
+TEST_F(Scenario, SameSeedSameGameToTheByte) {
+  ASSERT_EQ(Run("new_game.txt", "11"), 0);
+  const std::string dump = Bytes("docked.json"), shot = Bytes("docked.png"), menu = Bytes("menu.png");
+  ASSERT_EQ(Run("new_game.txt", "11"), 0);
+  EXPECT_EQ(Bytes("docked.json"), dump);
+  EXPECT_EQ(Bytes("docked.png"), shot);
+  EXPECT_EQ(Bytes("menu.png"), menu);
+  EXPECT_FALSE(menu.empty());
+  ASSERT_EQ(Run("new_game.txt", "12"), 0);
+  EXPECT_NE(Bytes("docked.json"), dump);  // another seed, another quadrant
+}
+
+TEST_F(Scenario, LoadBeforeAnyGameStartsOneWithoutThePictureAndEscapeResumes) {
+  ASSERT_EQ(Run("load_before_game.txt"), 0) << Bytes("err.txt");
+  const json ignored = Dump("resume_ignored.json");
+  EXPECT_EQ(ignored["MenuActive"], -1);
+  EXPECT_EQ(ignored["NoGameRunning"], -1);
+  EXPECT_EQ(ignored["BridgeActive"], 0);
+
+  const json loaded = Dump("loaded.json");
+  EXPECT_EQ(loaded["MenuActive"], 0);
+  EXPECT_EQ(loaded["LoadAfterStart"], -1);
+  EXPECT_EQ(loaded["BridgeActive"], -1);  // no click was needed: no picture
+  EXPECT_EQ(loaded["StationActive"], 0);
+  EXPECT_EQ(loaded["StatusSlot"][12]["Active"], 0);
+  EXPECT_EQ(loaded["NoGameRunning"], 0);
+
+  const json menu = Dump("menu_over_bridge.json");
+  EXPECT_EQ(menu["MenuActive"], -1);
+  EXPECT_EQ(menu["BridgeActive"], -1);
+
+  const json resumed = Dump("resumed.json");
+  EXPECT_EQ(resumed["MenuActive"], 0);
+  EXPECT_EQ(resumed["BridgeActive"], -1);
+  EXPECT_GT(resumed["Frame"].get<int>(), menu["Frame"].get<int>());
+}
+
+TEST_F(Scenario, SecondPageNeedsTwoOksAndAQuestionReplacesAMessage) {
+  ASSERT_EQ(Run("second_page.txt"), 0) << Bytes("err.txt");
+  const json first = Dump("first_ok.json");
+  EXPECT_EQ(first["MessagePending"], -1);
+  EXPECT_EQ(first["PromptLine"][1], "_SECOND PAGE");
+  EXPECT_EQ(first["PromptLine"][4], "");
+
+  const json second = Dump("second_ok.json");
+  EXPECT_EQ(second["MessagePending"], 0);
+  EXPECT_EQ(second["PromptLine"][1], "");
+
+  const json question = Dump("question.json");
+  EXPECT_EQ(question["QuestionPending"], -1);
+  EXPECT_EQ(question["MessagePending"], 0);
+  EXPECT_EQ(question["PromptLine"][2], "DO YOU WANT TO ENTER ORBIT?");
+}
+
+TEST_F(Scenario, AMissingDataFolderStillReachesTheMenu) {
+  ASSERT_EQ(Run("idle_menu.txt", "5", "/nonexistent-lanefarer-data"), 0) << Bytes("err.txt");
+  const json menu = Dump("menu.json");
+  EXPECT_EQ(menu["MenuActive"], -1);
+  EXPECT_EQ(menu["NoGameRunning"], -1);
+  EXPECT_FALSE(Bytes("menu.png").empty());
+}
+
+TEST_F(Scenario, BadScriptsAndCommandLinesEndWithStatusTwo) {
+  {
+    std::ofstream(dir / "bad.txt") << "frames 2\nfly 3 4\n";
+  }
+  EXPECT_EQ(Run("bad.txt"), 2);
+  EXPECT_NE(Bytes("err.txt").find("script:2:"), std::string::npos) << Bytes("err.txt");
+  {
+    std::ofstream(dir / "bad_restore.txt") << "restore missing.json\n";
+  }
+  EXPECT_EQ(Run("bad_restore.txt"), 2);
+  const std::string cmd = "'" LANEFARER_BINARY "' --no-such-option > /dev/null 2>&1";
+  const int raw = std::system(cmd.c_str());
+  EXPECT_EQ(WEXITSTATUS(raw), 2);
+}
+
+}  // namespace
