@@ -85,6 +85,65 @@ void VisitFields(V& v, CrewPostRecord& r) {
   v("SalaryBalance", r.SalaryBalance);
 }
 
+struct HullRecord {
+  std::string Name;
+  std::int32_t Price = 0;
+  std::int16_t HullPoints = 0;
+  std::int16_t CarryAmount = 0;
+  std::int16_t Hardpoints = 0;
+  std::int16_t CargoHold = 0;
+};
+template <class V>
+void VisitFields(V& v, HullRecord& r) {
+  v("Name", r.Name); v("Price", r.Price); v("HullPoints", r.HullPoints);
+  v("CarryAmount", r.CarryAmount); v("Hardpoints", r.Hardpoints); v("CargoHold", r.CargoHold);
+}
+
+struct NebulaRecord {
+  double X = 0, Y = 0;
+  std::int16_t Kind = 0;
+};
+template <class V>
+void VisitFields(V& v, NebulaRecord& r) {
+  v("X", r.X); v("Y", r.Y); v("Kind", r.Kind);
+}
+
+struct AsteroidFieldRecord {
+  double X = 0, Y = 0;
+};
+template <class V>
+void VisitFields(V& v, AsteroidFieldRecord& r) {
+  v("X", r.X); v("Y", r.Y);
+}
+
+struct DebrisRecord {
+  double X = 0, Y = 0;
+  Flag Visible = False;
+  Flag Virus = False;
+};
+template <class V>
+void VisitFields(V& v, DebrisRecord& r) {
+  v("X", r.X); v("Y", r.Y); v("Visible", r.Visible); v("Virus", r.Virus);
+}
+
+struct CargoPodRecord {
+  double X = 0, Y = 0;
+  Flag Virus = False;
+};
+template <class V>
+void VisitFields(V& v, CargoPodRecord& r) {
+  v("X", r.X); v("Y", r.Y); v("Virus", r.Virus);
+}
+
+struct StationStockRecord {
+  Table<std::int16_t, 14> Quantity{};
+  Table<double, 14> StationPrice{};
+};
+template <class V>
+void VisitFields(V& v, StationStockRecord& r) {
+  v("Quantity", r.Quantity); v("StationPrice", r.StationPrice);
+}
+
 struct UniverseState {
   double SectorSize = 0;
   double SensorRange = 0;
@@ -116,6 +175,39 @@ struct UniverseState {
   // Commodities: base prices and the hold.
   Table<double, 14> BasePrice{};
   Table<std::int16_t, 14> Cargo{};
+
+  // Stock and prices of every station of the quadrant, by body.
+  Table<StationStockRecord, 250> StationStock{};
+
+  // Nebulas, asteroid fields, debris and pods of the quadrant; the names.
+  std::int16_t NebulaCount = 0;
+  Table<NebulaRecord, 250> Nebula{};
+  std::int16_t AsteroidFieldCount = 0;
+  Table<AsteroidFieldRecord, 250> AsteroidField{};
+  Table<DebrisRecord, 50> Debris{};
+  Table<CargoPodRecord, 50> CargoPod{};
+  Table<std::string, 350> PlanetNames{};
+
+  // Body pictures 1..26: frame size and strip geometry.
+  Table<double, 26> PictureWidth{};
+  Table<double, 26> PictureHeight{};
+  Table<double, 26> PictureFramesPerRow{};
+  Table<double, 26> PictureLastFrame{};
+  Table<double, 26> PictureFrameStep{};
+
+  // Officer faces: areas by post, and what each officer says.
+  Table<std::int16_t, 6> FaceX{};
+  Table<std::int16_t, 6> FaceY{};
+  Table<std::int16_t, 6> FaceWidth{};
+  Table<std::int16_t, 6> FaceHeight{};
+  Table<Table<std::string, 3>, 6> OfficerLine{};
+
+  // The catalogue: hull classes, hulls [race 1..7][class 1..5], components
+  // [group][model][column] as text, and loadouts [class][slot][1 group, 2 model].
+  Table<std::string, 5> HullClassName{};
+  Table<Table<HullRecord, 5>, 7> Hull{};
+  Table<Table<Table<std::string, 15>, 12>, 10> ComponentTable{};
+  Table<Table<Table<std::int16_t, 2>, 16>, 19> ShipLoadout{};
 };
 
 template <class V>
@@ -148,6 +240,28 @@ void VisitFields(V& v, UniverseState& s) {
   v("UnfittedComp", s.UnfittedComp);
   v("BasePrice", s.BasePrice);
   v("Cargo", s.Cargo);
+  v("StationStock", s.StationStock);
+  v("NebulaCount", s.NebulaCount);
+  v("Nebula", s.Nebula);
+  v("AsteroidFieldCount", s.AsteroidFieldCount);
+  v("AsteroidField", s.AsteroidField);
+  v("Debris", s.Debris);
+  v("CargoPod", s.CargoPod);
+  v("PlanetNames", s.PlanetNames);
+  v("PictureWidth", s.PictureWidth);
+  v("PictureHeight", s.PictureHeight);
+  v("PictureFramesPerRow", s.PictureFramesPerRow);
+  v("PictureLastFrame", s.PictureLastFrame);
+  v("PictureFrameStep", s.PictureFrameStep);
+  v("FaceX", s.FaceX);
+  v("FaceY", s.FaceY);
+  v("FaceWidth", s.FaceWidth);
+  v("FaceHeight", s.FaceHeight);
+  v("OfficerLine", s.OfficerLine);
+  v("HullClassName", s.HullClassName);
+  v("Hull", s.Hull);
+  v("ComponentTable", s.ComponentTable);
+  v("ShipLoadout", s.ShipLoadout);
 }
 
 }  // namespace lf
