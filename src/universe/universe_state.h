@@ -156,9 +156,6 @@ struct UniverseState {
   Table<CrewPostRecord, 6> CrewPost{};
   Table<Table<std::int16_t, 10>, 250> StationPeople{};
 
-  // The officers' face areas on the bridge, by post 1..6.
-  Table<std::int16_t, 6> FaceX{}, FaceY{}, FaceWidth{}, FaceHeight{};
-
   // The player's ship and its fit; slots 0..20, [slot][1 group, 2 model].
   std::int16_t HullRace = 0, HullClass = 0;
   double HullPoints = 0;
@@ -222,10 +219,6 @@ void VisitFields(V& v, UniverseState& s) {
   v("Character", s.Character);
   v("CrewPost", s.CrewPost);
   v("StationPeople", s.StationPeople);
-  v("FaceX", s.FaceX);
-  v("FaceY", s.FaceY);
-  v("FaceWidth", s.FaceWidth);
-  v("FaceHeight", s.FaceHeight);
   v("HullRace", s.HullRace);
   v("HullClass", s.HullClass);
   v("HullPoints", s.HullPoints);
