@@ -17,6 +17,17 @@ namespace {
 constexpr PowerSystem kDrawnSystems[] = {PowerSystem::Weapons, PowerSystem::Shields,
                                          PowerSystem::Propulsion, PowerSystem::Sensor};
 
+// A message in the strip's three lines; a second page already waiting in
+// lines 4..6 stays.
+void Warn(const char* l1, const char* l2, const char* l3) {
+  G.PromptLine[1] = l1;
+  G.PromptLine[2] = l2;
+  G.PromptLine[3] = l3;
+  G.MessagePending = True;
+  G.QuestionPending = False;
+  G.PromptAge = -1;
+}
+
 void AllSettingsToZero() {
   for (int s = 1; s <= 5; ++s) SystemSetting(static_cast<PowerSystem>(s)) = 0;
 }
@@ -107,13 +118,13 @@ void CheckPowerOverload() {
   if (G.GeneratorHeat <= 100) G.HeatWarned = False;
   if (G.GeneratorHeat == 100) {
     PlaySoundFx(8, 2);
-    SetMessage("OUR POWER GENERATORS ARE BEGINING TO OVERHEAT!",
-               "WE MAY EXPERIENCE SOME DAMAGE ON THE POWER CORE!", "");
+    Warn("OUR POWER GENERATORS ARE BEGINING TO OVERHEAT!",
+         "WE MAY EXPERIENCE SOME DAMAGE ON THE POWER CORE!", "");
   }
   if (G.GeneratorHeat >= 150 && G.HeatWarned == False) {
     PlaySoundFx(8, 2);
-    SetMessage("CAPTAIN! I DO NOT THINK IT IS ADVISABLE TO CONTINUE",
-               "WITH THE OVERUSE OF OUR GENERATORS!", "THE DAMAGE IS INCREASING RAPIDLY!");
+    Warn("CAPTAIN! I DO NOT THINK IT IS ADVISABLE TO CONTINUE",
+         "WITH THE OVERUSE OF OUR GENERATORS!", "THE DAMAGE IS INCREASING RAPIDLY!");
     G.HeatWarned = True;
   }
 }
