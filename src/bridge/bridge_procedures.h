@@ -1,4 +1,5 @@
-// The bridge procedures called by the bridge frame (RunLoop), by topic.
+// The bridge procedures, by topic: those the bridge frame (RunLoop) calls,
+// and those a press on the bridge reaches.
 #pragma once
 
 namespace lf {
@@ -8,16 +9,23 @@ void DrawToolsIcons();
 void DrawButtons();
 void CheckMouseOverButton();
 void DrawFaces();
+void CheckFace();
+void CheckButton();
 
 // Sector view and navigation.
 void CheckViewMove();
 void CheckDirection();
+void CheckDestination();
+void CheckViewMode();
+void CheckGrid();
+void CheckSensorRange();
 void DrawNebulas();
 void DrawQuadBack();
 void DrawStars();
 void DrawGrid();
 void DrawSensorRange();
 void DrawPlans();
+void DrawPlanInfo(int i);
 void DrawShip();
 void DrawDistance();
 void DrawDestination();
@@ -42,6 +50,9 @@ void UpdateEnergy();
 void DrawEnergyList();
 void CheckPowerOverload();
 void DistributeEnergy();
+void a_ResetEnergy();
+void Butt_3_4();
+void Butt_3_8();
 
 // Maintenance and cargo.
 void UpdateRepair();
@@ -66,5 +77,9 @@ void DrawTime();
 void HandleShipEvent7();
 void HandleShipEvent8();
 void DrawShipStatus();
+
+// A mouse press on the bridge (the last branch of Form_MouseDown).
+// Button: 1 left, 2 right. The position is read from the host.
+void CheckBridgeMouseDown(int Button);
 
 }  // namespace lf

@@ -60,6 +60,25 @@ struct BridgeState {
   std::int16_t RepairPool = 0;
   Flag ScanRequested = False;
   Table<std::int16_t, 7> RaceRelation{};
+
+  // Animation frames of the sector view.
+  double ShipFrame = 0;
+  double DestMarkerFrame = 0;
+  double SensorRingFrame = 0;
+  double AsteroidFrame = 0;
+
+  // Generator heat and the missing-component flags, recomputed every frame.
+  double GeneratorHeat = 0;
+  Flag HeatWarned = False;
+  Flag NoComputer = False, NoSensor = False, NoWeapon = False, NoShield = False, NoEngine = False;
+
+  // The autopilot list's first row, and the ship a click attacks.
+  std::int16_t AutopilotTop = 0;
+  std::int16_t FightShip = 0;
+
+  // The medical officer's effort and its shares by crew post.
+  std::int16_t MedicalPool = 0;
+  Table<std::int16_t, 6> TreatmentAlloc{};
 };
 
 template <class V>
@@ -87,6 +106,18 @@ void VisitFields(V& v, BridgeState& s) {
   v("RepairPool", s.RepairPool);
   v("ScanRequested", s.ScanRequested);
   v("RaceRelation", s.RaceRelation);
+  v("ShipFrame", s.ShipFrame);
+  v("DestMarkerFrame", s.DestMarkerFrame);
+  v("SensorRingFrame", s.SensorRingFrame);
+  v("AsteroidFrame", s.AsteroidFrame);
+  v("GeneratorHeat", s.GeneratorHeat);
+  v("HeatWarned", s.HeatWarned);
+  v("NoComputer", s.NoComputer); v("NoSensor", s.NoSensor); v("NoWeapon", s.NoWeapon);
+  v("NoShield", s.NoShield); v("NoEngine", s.NoEngine);
+  v("AutopilotTop", s.AutopilotTop);
+  v("FightShip", s.FightShip);
+  v("MedicalPool", s.MedicalPool);
+  v("TreatmentAlloc", s.TreatmentAlloc);
 }
 
 }  // namespace lf

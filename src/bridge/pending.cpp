@@ -1,34 +1,11 @@
 // Bridge procedures not written yet: each stands empty until its topic
 // fills it.
 #include "bridge/bridge_procedures.h"
+#include "bridge/later_procedures.h"
 
 namespace lf {
 
-// Panel and buttons: filled by the bridge panel.
-void DrawToolsIcons() {}
-void DrawButtons() {}
-void CheckMouseOverButton() {}
-void DrawFaces() {}
-
-// Sector view and navigation: filled by the sector view.
-void CheckViewMove() {}
-void CheckDirection() {}
-void DrawNebulas() {}
-void DrawQuadBack() {}
-void DrawStars() {}
-void DrawGrid() {}
-void DrawSensorRange() {}
-void DrawPlans() {}
-void DrawShip() {}
-void DrawDistance() {}
-void DrawDestination() {}
-void DrawCoords() {}
-void CheckScroll() {}
-void CheckDistance() {}
-void DrawHealth() {}
-
 // Helm actions: filled by the helm.
-void CheckStopAvailability() {}
 void DrawDebrisCargo() {}
 void DrawAutopilotList() {}
 void EnteringStarlane() {}
@@ -36,13 +13,6 @@ void EnteringStarlane() {}
 // Communications: filled by the comms officer's page.
 void DrawHailMessages() {}
 void DrawDiplomacy() {}
-
-// Power: filled by the power systems.
-void CheckMissingComponents() {}
-void UpdateEnergy() {}
-void DrawEnergyList() {}
-void CheckPowerOverload() {}
-void DistributeEnergy() {}
 
 // Maintenance and cargo: filled by the engineer's page.
 void UpdateRepair() {}
@@ -67,5 +37,28 @@ void DrawTime() {}
 void HandleShipEvent7() {}
 void HandleShipEvent8() {}
 void DrawShipStatus() {}
+
+// Helm actions the bridge's buttons call: filled by the helm.
+void MakeAutopilotList() {}
+void CheckAutopilot() {}
+void DrawStarLanes() {}
+void Butt_1_3() {}
+void Butt_1_7() {}
+void Butt_1_8() {}
+
+// Communications and ship trade: filled by the comms officer's page.
+void Butt_2_2() {}
+void Butt_2_4() {}
+void CheckHailSel() {}
+void CheckTradeSel() {}
+
+// Crew health: filled by the medical officer's page.
+void Butt_4_2() {}
+
+// Science and missions: filled by the science officer's page and the missions.
+void Butt_5_1() {}
+void DrawScanResults() {}
+void CheckResearchMouseDown() {}
+void CheckMissionDecline() {}
 
 }  // namespace lf

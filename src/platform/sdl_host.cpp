@@ -159,13 +159,17 @@ void SdlHost::PumpInput(std::vector<InputEvent>& out) {
 
 void SdlHost::Present(const std::uint16_t* pixels, int pitchBytes) {
   SDL_UpdateTexture(texture_, nullptr, pixels, pitchBytes);
+  ShowTexture(texture_);
+}
+
+void SdlHost::ShowTexture(SDL_Texture* texture) {
   int w = kW, h = kH;
   SDL_GetRendererOutputSize(renderer_, &w, &h);
   const Letterbox box = FitFrame(w, h);
   const SDL_Rect dst{box.x, box.y, box.w, box.h};
   SDL_SetRenderDrawColor(renderer_, 0, 0, 0, 255);
   SDL_RenderClear(renderer_);
-  SDL_RenderCopy(renderer_, texture_, nullptr, &dst);
+  SDL_RenderCopy(renderer_, texture, nullptr, &dst);
   SDL_RenderPresent(renderer_);
 }
 
@@ -178,14 +182,7 @@ bool SdlHost::PresentClipFrame(const std::uint8_t* rgb, int w, int h) {
   }
   if (clipTexture_) {
     SDL_UpdateTexture(clipTexture_, nullptr, rgb, w * 3);
-    int ow = kW, oh = kH;
-    SDL_GetRendererOutputSize(renderer_, &ow, &oh);
-    const Letterbox box = FitFrame(ow, oh);
-    const SDL_Rect dst{box.x, box.y, box.w, box.h};
-    SDL_SetRenderDrawColor(renderer_, 0, 0, 0, 255);
-    SDL_RenderClear(renderer_);
-    SDL_RenderCopy(renderer_, clipTexture_, nullptr, &dst);
-    SDL_RenderPresent(renderer_);
+    ShowTexture(clipTexture_);
   }
   std::vector<InputEvent> events;
   SDL_Event e;

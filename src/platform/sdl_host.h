@@ -50,6 +50,8 @@ class SdlHost : public Host {
 
  private:
   void ToggleFullscreen();
+  // Draws a texture scaled into the letterbox and presents it.
+  void ShowTexture(SDL_Texture* texture);
   void HandleEvent(const SDL_Event& e, std::vector<InputEvent>& out);
   Letterbox MouseBox() const;
 

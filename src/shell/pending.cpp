@@ -9,7 +9,5 @@ void EraseInfo() {}
 void SaveGame() {}
 void LoadGame() {}
 
-// Bridge click: filled by the bridge's share of the mouse.
-void CheckBridgeMouseDown(int) {}
 
 }  // namespace lf

@@ -341,6 +341,7 @@ TEST_F(BridgeFrame, RecountsTheRepairPoolFromTheEngineerAndFittedShares) {
   G.RepairCrew[1] = 20;
   G.FittedComp[2][1] = 5;
   G.RepairCrew[2] = 30;
+  G.FittedComp[3][1] = 0;
   G.RepairCrew[3] = 40;  // no component: its share does not count
   G.FittedComp[11][1] = 1;
   G.RepairCrew[11] = 70;  // past the hardpoints: not counted either

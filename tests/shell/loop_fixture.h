@@ -14,6 +14,7 @@
 #include "shell/host.h"
 #include "shell/program.h"
 #include "shell/screens.h"
+#include "universe/new_game.h"
 
 namespace lf::test {
 
@@ -71,6 +72,17 @@ class LoopTest : public ::testing::Test {
     }
     G.ShipX = G.DestX = 2500;
     G.ShipY = G.DestY = 2500;
+    // One component of each group 1..7 fitted, every system set where it
+    // stands, so that the power rules leave levels and buttons alone.
+    DefineShipSpecs();
+    G.HardpointCount = 7;
+    for (int slot = 1; slot <= 7; ++slot) {
+      G.FittedComp[slot][1] = static_cast<std::int16_t>(slot);
+      G.FittedComp[slot][2] = 1;
+      G.FittedHealth[slot] = 1000;
+    }
+    G.SensorSetting = G.SensorLevel = 100;
+    G.LifeSupportSetting = G.LifeSupportLevel = 100;
     Enter(RunLoop);
   }
 

@@ -1,0 +1,31 @@
+// Procedures of other bridge topics, the station, the fight and the saved
+// games that the bridge's own procedures call.
+#pragma once
+
+namespace lf {
+
+
+// Helm actions.
+void MakeAutopilotList();
+void CheckAutopilot();
+void DrawStarLanes();
+void Butt_1_3();
+void Butt_1_7();
+void Butt_1_8();
+
+// Communications and ship trade.
+void Butt_2_2();
+void Butt_2_4();
+void CheckHailSel();
+void CheckTradeSel();
+
+// Crew health.
+void Butt_4_2();
+
+// Science and missions.
+void Butt_5_1();
+void DrawScanResults();
+void CheckResearchMouseDown();
+void CheckMissionDecline();
+
+}  // namespace lf
