@@ -37,8 +37,9 @@ class Scenario : public ::testing::Test {
     return d ? d : "/nonexistent-lanefarer-data";
   }
 
-  int Run(const std::string& script, const std::string& seed = "5", const std::string& data = Data()) {
-    const std::string cmd = "cd '" + dir.string() + "' && '" LANEFARER_BINARY "' --headless --seed " + seed +
+  int Run(const std::string& script, const std::string& seed = "5", const std::string& data = Data(),
+          const std::string& extra = "") {
+    const std::string cmd = "cd '" + dir.string() + "' && '" LANEFARER_BINARY "' --headless " + extra + " --seed " + seed +
                             " --data '" + data + "' --save-dir '" + (dir / "save").string() + "' --script " +
                             script + " > out.txt 2> err.txt";
     const int raw = std::system(cmd.c_str());
@@ -140,6 +141,24 @@ TEST_F(Scenario, AMissingDataFolderStillReachesTheMenu) {
   EXPECT_EQ(menu["MenuActive"], -1);
   EXPECT_EQ(menu["NoGameRunning"], -1);
   EXPECT_FALSE(Bytes("menu.png").empty());
+}
+
+TEST_F(Scenario, TheGeneratedDataHoldsEveryPictureAPlayThroughAsksFor) {
+  if (!std::getenv("LANEFARER_TEST_DATA")) GTEST_SKIP() << "no generated data folder";
+  {
+    // Menu, a new game, the opening picture, the station hand-over; Load,
+    // the bridge, each officer's page opened in turn.
+    std::ofstream f(dir / "tour.txt");
+    f << "frames 3\nclick 320 150\nframes 3\nclick 320 240\nframes 5\nkey 27\nframes 2\n"
+         "click 320 270\nframes 5\n";
+    for (const char* face : {"60 80", "60 200", "60 340", "580 80", "580 200", "580 340"})
+      f << "click " << face << "\nframes 3\n";
+    f << "dump tour.json\n";
+  }
+  ASSERT_EQ(Run("tour.txt", "5", Data(), "--verbose"), 0) << Bytes("err.txt");
+  EXPECT_EQ(Bytes("err.txt").find("missing"), std::string::npos) << Bytes("err.txt");
+  EXPECT_EQ(Bytes("err.txt").find("unreadable"), std::string::npos) << Bytes("err.txt");
+  EXPECT_EQ(Dump("tour.json")["BridgeActive"], -1);
 }
 
 TEST_F(Scenario, BadScriptsAndCommandLinesEndWithStatusTwo) {
