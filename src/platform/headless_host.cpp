@@ -8,11 +8,33 @@
 #include <nlohmann/json.hpp>
 
 #include "display/png_writer.h"
+#include "media/media.h"
 #include "shell/game_state.h"
 #include "shell/program.h"
 #include "shell/state_json.h"
 
 namespace lf {
+
+namespace {
+
+// The whole record, and behind it the last media calls, oldest first, as
+// "sound S C", "track N", "stoptrack" and "clip FILE".
+nlohmann::ordered_json DumpWithMediaCalls() {
+  nlohmann::ordered_json out = DumpState(G);
+  nlohmann::ordered_json calls = nlohmann::ordered_json::array();
+  for (const MediaCall& c : MediaLog()) {
+    switch (c.kind) {
+      case MediaCall::Kind::Sound: calls.push_back("sound " + std::to_string(c.number) + " " + std::to_string(c.channel)); break;
+      case MediaCall::Kind::Track: calls.push_back("track " + std::to_string(c.number)); break;
+      case MediaCall::Kind::StopTrack: calls.push_back("stoptrack"); break;
+      case MediaCall::Kind::Clip: calls.push_back("clip " + c.file); break;
+    }
+  }
+  out["MediaCalls"] = std::move(calls);
+  return out;
+}
+
+}  // namespace
 namespace {
 
 constexpr int kW = 640, kH = 480;
@@ -84,7 +106,7 @@ void HeadlessHost::Run(const ScriptCommand& cmd) {
     }
     case Kind::Dump: {
       std::ofstream f(cmd.file, std::ios::binary | std::ios::trunc);
-      if (f) f << DumpStateText(G);
+      if (f) f << DumpWithMediaCalls().dump(1) << "\n";
       if (!f || !f.flush()) Fail(cmd, "cannot write " + Quoted(cmd.file));
       break;
     }
@@ -98,6 +120,8 @@ void HeadlessHost::Run(const ScriptCommand& cmd) {
       } catch (const nlohmann::json::exception& e) {
         Fail(cmd, "bad JSON in " + Quoted(cmd.file) + ": " + e.what());
       }
+      // The media calls of a dump are a record of what was heard, not state.
+      if (state.is_object()) state.erase("MediaCalls");
       try {
         RestoreState(G, state);
       } catch (const RestoreError& e) {

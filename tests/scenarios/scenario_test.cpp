@@ -79,6 +79,12 @@ TEST_F(Scenario, NewGameWaitsOnTheOpeningPictureThenDocks) {
   EXPECT_GE(docked["PlanetCount"].get<int>(), 50);
   EXPECT_LE(docked["PlanetCount"].get<int>(), 70);
   EXPECT_EQ(docked["OrbitState"], 3);
+  // The logo clip and the menu's music first, then New's press sound.
+  const json calls = docked["MediaCalls"];
+  ASSERT_GE(calls.size(), 3u);
+  EXPECT_EQ(calls[0], "clip anim/tarvish.mpg");
+  EXPECT_EQ(calls[1], "track 2");
+  EXPECT_EQ(calls[2], "sound 4 1");
 }
 
 TEST_F(Scenario, SameSeedSameGameToTheByte) {
@@ -99,6 +105,7 @@ TEST_F(Scenario, LoadBeforeAnyGameStartsOneWithoutThePictureAndEscapeResumes) {
   EXPECT_EQ(ignored["MenuActive"], -1);
   EXPECT_EQ(ignored["NoGameRunning"], -1);
   EXPECT_EQ(ignored["BridgeActive"], 0);
+  EXPECT_EQ(ignored["MediaCalls"], json::parse(R"(["clip anim/tarvish.mpg", "track 2"])")) << "Resume is silent";
 
   const json loaded = Dump("loaded.json");
   EXPECT_EQ(loaded["MenuActive"], 0);
