@@ -14,6 +14,18 @@ namespace lf {
 namespace {
 
 bool Between(int v, int low, int high) { return v > low && v < high; }
+
+// A share slider moves its share by `want` while the pool can pay for it;
+// otherwise the share takes all that is left.
+void TakeFromPool(std::int16_t& share, std::int16_t& pool, double want) {
+  if (pool - want > 0) {
+    Assign(share, share + want);
+    Assign(pool, pool - want);
+  } else {
+    Assign(share, static_cast<double>(share) + pool);
+    pool = 0;
+  }
+}
 // The value a slider press asks for: 0 at the left end, 99 at x = 489.
 double SliderValue(int x) { return Int((105 - (490 - x)) / 1.05); }
 
@@ -50,13 +62,7 @@ void MaintenanceClick() {
     if (SlotGroup(i) == 0) continue;
     if (!(Between(G.MouseX, 385, 490) && Between(G.MouseY, 287 + 8 * i, 295 + 8 * i))) continue;
     const double want = SliderValue(G.MouseX) - G.RepairCrew[i];
-    if (G.RepairPool - want > 0) {
-      Assign(G.RepairCrew[i], G.RepairCrew[i] + want);
-      Assign(G.RepairPool, G.RepairPool - want);
-    } else {
-      Assign(G.RepairCrew[i], static_cast<double>(G.RepairCrew[i]) + G.RepairPool);
-      G.RepairPool = 0;
-    }
+    TakeFromPool(G.RepairCrew[i], G.RepairPool, want);
     PlaySoundFx(4, 1);
   }
 }
@@ -100,13 +106,7 @@ void MedicalClick() {
     const double want = SliderValue(G.MouseX) - G.TreatmentAlloc[i];
     const bool hurt = G.CrewPost[i].Health < 100;
     if (!hurt) continue;
-    if (G.MedicalPool - want > 0) {
-      Assign(G.TreatmentAlloc[i], G.TreatmentAlloc[i] + want);
-      Assign(G.MedicalPool, G.MedicalPool - want);
-    } else {
-      Assign(G.TreatmentAlloc[i], static_cast<double>(G.TreatmentAlloc[i]) + G.MedicalPool);
-      G.MedicalPool = 0;
-    }
+    TakeFromPool(G.TreatmentAlloc[i], G.MedicalPool, want);
     PlaySoundFx(4, 1);
   }
 }

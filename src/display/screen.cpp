@@ -61,6 +61,9 @@ Bitmap LoadBitmapIntoDXS(std::string_view gamePath) {
     SDL_FreeSurface(raw);
     if (converted) {
       SDL_SetColorKey(converted, SDL_TRUE, 0);
+      // Keyed pictures are run-length coded by SDL on their first keyed
+      // blit: transparent runs are skipped and opaque runs copied whole.
+      SDL_SetSurfaceRLE(converted, 1);
       result = Bitmap::Adopt(converted);
     } else {
       ReportMissing(file, std::string("cannot convert: ") + SDL_GetError());

@@ -119,6 +119,11 @@ std::string Encode8(const Image& im) {
     pal.push_back(char(0));
   }
   std::string raw = Raw8(q.indices, im.width, im.height);
+  // SDL reads coded rows byte by byte, several times slower than plain ones:
+  // pictures up to a megabyte stay plain so that loads stay quick, and only
+  // the large sheets are coded to keep the data set small.
+  constexpr std::size_t kPlainUpTo = 1100000;
+  if (raw.size() <= kPlainUpTo) return Header(im.width, im.height, 8, 0, uint32_t(raw.size()), 256) + pal + raw;
   std::string rle = Rle8(q.indices, im.width, im.height);
   if (rle.size() < raw.size()) return Header(im.width, im.height, 8, 1, uint32_t(rle.size()), 256) + pal + rle;
   return Header(im.width, im.height, 8, 0, uint32_t(raw.size()), 256) + pal + raw;

@@ -83,6 +83,22 @@ class Progress {
 
 }  // namespace
 
+namespace {
+
+// Looks up every face the pictures use once, before the two workers start:
+// the font library's first lookups are not safe to race, and a lost race
+// could give a picture another face.
+void WarmUpFonts() {
+  cairo_surface_t* surface = cairo_image_surface_create(CAIRO_FORMAT_ARGB32, 8, 8);
+  cairo_t* cr = cairo_create(surface);
+  for (bool mono : {false, true})
+    for (bool bold : {false, true}) TextWidth(cr, "A", 10, bold, mono);
+  cairo_destroy(cr);
+  cairo_surface_destroy(surface);
+}
+
+}  // namespace
+
 bool GenerateBitmaps(const std::string& dataDir, const std::string& onlyPrefix) {
   std::vector<const BitmapSpec*> todo;
   for (const BitmapSpec& b : Manifest()) {
@@ -99,6 +115,7 @@ bool GenerateBitmaps(const std::string& dataDir, const std::string& onlyPrefix) 
       return false;
     }
   }
+  WarmUpFonts();
   Progress progress(todo.size());
   std::atomic<size_t> next{0};
   std::atomic<bool> failed{false};
