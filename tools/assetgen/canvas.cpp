@@ -192,4 +192,9 @@ void Stars(Canvas& cv, uint32_t seed, int count, double brightness) {
   cv.Dirty();
 }
 
+void Recess(cairo_t* cr, double x, double y, double w, double h, int border) {
+  Bevel(cr, x - border, y - border, w + 2 * border, h + 2 * border, kSteelDark, -border);
+  FillRect(cr, x, y, w, h, {0.03, 0.04, 0.06});
+}
+
 }  // namespace assetgen

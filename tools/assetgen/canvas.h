@@ -43,6 +43,8 @@ void FillRect(cairo_t* cr, double x, double y, double w, double h, Rgb c, double
 // A raised (depth > 0) or sunken (depth < 0) plate with bevelled edges;
 // depth 0 draws only a one-pixel rim.
 void Bevel(cairo_t* cr, double x, double y, double w, double h, Rgb base, int depth);
+// A dark well sunk into a panel, its bevel `border` pixels wide around it.
+void Recess(cairo_t* cr, double x, double y, double w, double h, int border);
 // A plate with brushed texture, rivets and a bevel.
 void SteelPlate(cairo_t* cr, double x, double y, double w, double h, uint32_t seed);
 

@@ -11,45 +11,40 @@
 namespace assetgen {
 namespace {
 
-void Recess(cairo_t* cr, double x, double y, double w, double h) {
-  Bevel(cr, x - 2, y - 2, w + 4, h + 4, kSteelDark, -2);
-  FillRect(cr, x, y, w, h, {0.03, 0.04, 0.06});
-}
-
 void FightBack(Canvas& cv, uint32_t seed) {
   cairo_t* cr = cv.cr();
   SteelPlate(cr, 0, 0, 640, 480, seed);
   // the main view with a starfield
-  Recess(cr, 118, 56, 400, 240);
+  Recess(cr, 118, 56, 400, 240, 2);
   cairo_save(cr);
   cairo_rectangle(cr, 118, 56, 400, 240);
   cairo_clip(cr);
   Stars(cv, seed, 300, 0.9);
   cairo_restore(cr);
   // opponent gauges strip
-  Recess(cr, 140, 4, 360, 40);
+  Recess(cr, 140, 4, 360, 40, 2);
   // own system bars and crew bars
   static constexpr const char* kSystems[] = {"HULL", "SHLD", "GEN", "ENG", "BEAM", "SENS"};
   for (int i = 0; i < 6; ++i) {
-    Recess(cr, 35, 69 + 20 * i, 65, 15);
+    Recess(cr, 35, 69 + 20 * i, 65, 15, 2);
     Text(cr, kSystems[i], 31, 80 + 20 * i, 7, kAmberDim, Align::Right, true, true);
   }
   static constexpr const char* kPosts[] = {"NAV", "COM", "TAC", "MED", "SCI", "ENG"};
   for (int i = 0; i < 6; ++i) {
-    Recess(cr, 35, 189 + 20 * i, 65, 15);
+    Recess(cr, 35, 189 + 20 * i, 65, 15, 2);
     Text(cr, kPosts[i], 31, 200 + 20 * i, 7, kCyanDim, Align::Right, true, true);
   }
   // lamps, specials, weapons, targets, energy
-  Recess(cr, 11, 324, 95, 145);
-  Recess(cr, 120, 345, 110, 124);
-  Recess(cr, 250, 345, 118, 112);
-  Recess(cr, 376, 346, 50, 113);
-  Recess(cr, 446, 346, 74, 100);
+  Recess(cr, 11, 324, 95, 145, 2);
+  Recess(cr, 120, 345, 110, 124, 2);
+  Recess(cr, 250, 345, 118, 112, 2);
+  Recess(cr, 376, 346, 50, 113, 2);
+  Recess(cr, 446, 346, 74, 100, 2);
   Text(cr, "PWR", 456, 341, 7, kCyanDim, Align::Center, true, true);
   Text(cr, "WPN", 483, 341, 7, kCyanDim, Align::Center, true, true);
   Text(cr, "SHD", 510, 341, 7, kCyanDim, Align::Center, true, true);
   // range scale at the right
-  Recess(cr, 560, 52, 36, 338);
+  Recess(cr, 560, 52, 36, 338, 2);
   for (int i = 0; i <= 10; ++i) FillRect(cr, 590, 55 + i * 31, 6, 1, kCyanDim);
   Text(cr, "RANGE", 578, 404, 8, kCyan, Align::Center, true, true);
   // flee (y 16..25) and self-destruct (y 25..39) over the surrender picture at (18,39)
@@ -57,7 +52,7 @@ void FightBack(Canvas& cv, uint32_t seed) {
   Text(cr, "FLEE", 64, 24, 8, kGreen, Align::Center, true, true);
   Bevel(cr, 18, 26, 92, 13, {0.40, 0.15, 0.12}, 1);
   Text(cr, "SELF-DESTRUCT", 64, 36, 8, {1.0, 0.6, 0.5}, Align::Center, true, true);
-  Recess(cr, 18, 39, 90, 9);
+  Recess(cr, 18, 39, 90, 9, 2);
   // range orders: farther (y 429..441) and closer (y above 445), x 535..618
   Bevel(cr, 536, 429, 82, 13, kSteel, 1);
   Text(cr, "FARTHER", 577, 439, 8, kAmber, Align::Center, true, true);
@@ -68,7 +63,7 @@ void FightBack(Canvas& cv, uint32_t seed) {
   Text(cr, ">", 484.5, 460, 9, kCyan, Align::Center, true, true);
   Bevel(cr, 500, 450, 19, 13, kSteel, 1);
   Text(cr, "<", 509.5, 460, 9, kCyan, Align::Center, true, true);
-  Recess(cr, 125, 303, 390, 20);
+  Recess(cr, 125, 303, 390, 20, 2);
 }
 
 void OpponentShip(Canvas& cv, int race, int hullClass) {

@@ -8,33 +8,28 @@
 namespace assetgen {
 namespace {
 
-void Recess(cairo_t* cr, double x, double y, double w, double h) {
-  Bevel(cr, x - 3, y - 3, w + 6, h + 6, kSteelDark, -3);
-  FillRect(cr, x, y, w, h, {0.03, 0.04, 0.06});
-}
-
 void BridgeBack(Canvas& cv, uint32_t seed) {
   cairo_t* cr = cv.cr();
   SteelPlate(cr, 0, 0, 640, 480, seed);
   // top strip: clock, icons
   Bevel(cr, 0, 0, 640, 22, kSteel, 2);
-  Recess(cr, 150, 3, 160, 16);
+  Recess(cr, 150, 3, 160, 16, 3);
   Text(cr, "DATE", 120, 15, 8, kAmberDim, Align::Left, true, true);
-  Recess(cr, 372, 3, 104, 16);
+  Recess(cr, 372, 3, 104, 16, 3);
   // faces with their health bars
   for (int side = 0; side < 2; ++side) {
     const double x = side ? 538 : 24;
     for (double y : {29.0, 155.0, 289.0}) {
-      Recess(cr, x, y, 80, 100);
-      Recess(cr, x, y + 105, 80, 10);
+      Recess(cr, x, y, 80, 100, 3);
+      Recess(cr, x, y + 105, 80, 10, 3);
     }
   }
   // the view and the panel area
-  Recess(cr, 121, 25, 400, 240);
-  Recess(cr, 130, 277, 246, 134);
-  Recess(cr, 380, 277, 130, 130);
+  Recess(cr, 121, 25, 400, 240, 3);
+  Recess(cr, 130, 277, 246, 134, 3);
+  Recess(cr, 380, 277, 130, 130, 3);
   // the prompt strip
-  Recess(cr, 14, 416, 612, 52);
+  Recess(cr, 14, 416, 612, 52, 3);
   // help icon
   Bevel(cr, 517, 264, 13, 10, kSteelLight, 1);
   Text(cr, "?", 523.5, 273, 9, kAmber, Align::Center);
