@@ -54,12 +54,16 @@ Options ParseCommandLine(const std::vector<std::string>& args) {
     else if (name == "--data") o.data = value();
     else if (name == "--save-dir") o.saveDir = value();
     else if (name == "--script") o.script = value();
+    else if (name == "--record") o.record = value();
+    else if (name == "--monkey") o.monkey = NumberOption<std::int64_t>(name, value(), 1, 1'000'000'000);
     else throw CommandLineError("unknown option \"" + args[i] + "\"");
   }
-  for (const auto* option : {&o.data, &o.saveDir, &o.script})
+  for (const auto* option : {&o.data, &o.saveDir, &o.script, &o.record})
     if (*option && (*option)->empty()) throw CommandLineError("an empty folder or file name was given");
   if (!o.headless && o.script) throw CommandLineError("--script needs --headless");
   if (!o.headless && seedGiven) throw CommandLineError("--seed needs --headless");
+  if (!o.headless && o.monkey) throw CommandLineError("--monkey needs --headless");
+  if (o.monkey && o.script) throw CommandLineError("--monkey and --script exclude each other");
   return o;
 }
 
@@ -67,7 +71,8 @@ std::string VersionText() { return std::string("lanefarer ") + LANEFARER_VERSION
 
 std::string Usage() {
   return "usage: lanefarer [options]\n"
-         "       lanefarer --headless [--seed N] [--script FILE] [--data DIR] [--save-dir DIR]\n"
+         "       lanefarer --headless [--seed N] [--script FILE | --monkey N] [--record FILE]\n"
+         "                 [--data DIR] [--save-dir DIR]\n"
          "\n"
          "  --help             show this text and exit\n"
          "  --version          show the version and exit\n"
@@ -80,7 +85,12 @@ std::string Usage() {
          "  --save-dir DIR     the saved game folder (default: $XDG_DATA_HOME/lanefarer/save)\n"
          "  --headless         run without window or sound, as fast as possible, driven by a script\n"
          "  --seed N           headless: the random seed (default 1)\n"
-         "  --script FILE      headless: the script to run ('-' reads standard input)\n";
+         "  --script FILE      headless: the script to run ('-' reads standard input)\n"
+         "  --monkey N         headless: N frames of random input instead of a script\n"
+         "  --record FILE      write the session's input as a script that replays it headless\n"
+         "\n"
+         "Settings are read from $XDG_CONFIG_HOME/lanefarer/settings.ini (windowed runs only);\n"
+         "F12 saves a screenshot.\n";
 }
 
 }  // namespace lf

@@ -21,6 +21,8 @@ struct Options {
   bool headless = false;
   std::uint64_t seed = 1;
   std::optional<std::string> script;  // "-" reads the script from standard input
+  std::optional<std::string> record;  // write the session's input as a script
+  std::int64_t monkey = 0;            // headless: frames of random input (0: none)
 };
 
 struct CommandLineError : std::runtime_error {

@@ -8,6 +8,7 @@
 #include <nlohmann/json.hpp>
 
 #include "display/png_writer.h"
+#include "platform/screenshot_file.h"
 #include "media/media.h"
 #include "shell/game_state.h"
 #include "shell/program.h"
@@ -57,6 +58,8 @@ std::uint64_t HeadlessSeed(std::uint64_t seed, std::int64_t frame) {
 HeadlessHost::HeadlessHost(std::vector<ScriptCommand> script, std::uint64_t seed, std::ostream& err)
     : script_(std::move(script)), seed_(seed), err_(err), frame_(static_cast<std::size_t>(kW) * kH, 0) {
   pending_.reserve(16);
+  // A recorded session names its seed first: it holds from the first frame.
+  if (!script_.empty() && script_.front().kind == ScriptCommand::Kind::Seed) seed_ = script_.front().seed;
 }
 
 void HeadlessHost::PumpInput(std::vector<InputEvent>& out) {
@@ -129,6 +132,9 @@ void HeadlessHost::Run(const ScriptCommand& cmd) {
       }
       break;
     }
+    case Kind::Seed:
+      seed_ = cmd.seed;
+      break;
     case Kind::Quit:
       throw ProgramEnd{0};
   }
@@ -157,5 +163,7 @@ void HeadlessHost::SetCursorPos(int x, int y) {
 }
 
 std::uint64_t HeadlessHost::ClockSeed() { return HeadlessSeed(seed_, G.Frame); }
+
+bool HeadlessHost::SaveScreenshot(std::string& where) { return WriteScreenshot(frame_.data(), where); }
 
 }  // namespace lf

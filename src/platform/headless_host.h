@@ -31,6 +31,7 @@ class HeadlessHost : public Host {
   void SetCursorPos(int x, int y) override;
   void PaceFrame() override {}
   std::uint64_t ClockSeed() override;
+  bool SaveScreenshot(std::string& where) override;
 
   // Yields served so far.
   std::int64_t Yields() const { return yields_; }

@@ -22,6 +22,7 @@ constexpr CommandShape kCommands[] = {
     {"shot", ScriptCommand::Kind::Shot, 1, "shot FILE"},
     {"dump", ScriptCommand::Kind::Dump, 1, "dump FILE"},
     {"restore", ScriptCommand::Kind::Restore, 1, "restore FILE"},
+    {"seed", ScriptCommand::Kind::Seed, 1, "seed N"},
     {"quit", ScriptCommand::Kind::Quit, 0, "quit"},
 };
 
@@ -78,9 +79,10 @@ ScriptCommand ParseLine(const std::vector<std::string_view>& words, int line) {
       break;
     case ScriptCommand::Kind::Key: {
       cmd.key = static_cast<int>(Number(words[1], 0, 255, "key code", line));
-      if (cmd.key != 27 && (cmd.key < 37 || cmd.key > 40))
+      if (cmd.key != 27 && (cmd.key < 37 || cmd.key > 40) && cmd.key != 123)
         throw ScriptError{line, "key code " + std::to_string(cmd.key) +
-                                    " is not one of 27 (Escape), 37 (Left), 38 (Up), 39 (Right), 40 (Down)"};
+                                    " is not one of 27 (Escape), 37 (Left), 38 (Up), 39 (Right), 40 (Down), "
+                                    "123 (F12)"};
       break;
     }
     case ScriptCommand::Kind::Shot:
@@ -88,6 +90,14 @@ ScriptCommand ParseLine(const std::vector<std::string_view>& words, int line) {
     case ScriptCommand::Kind::Restore:
       cmd.file = std::string(words[1]);
       break;
+    case ScriptCommand::Kind::Seed: {
+      std::uint64_t value = 0;
+      const auto [end, ec] = std::from_chars(words[1].data(), words[1].data() + words[1].size(), value);
+      if (ec != std::errc() || end != words[1].data() + words[1].size())
+        throw ScriptError{line, "seed \"" + std::string(words[1]) + "\" is not a number"};
+      cmd.seed = value;
+      break;
+    }
     case ScriptCommand::Kind::Quit:
       break;
   }

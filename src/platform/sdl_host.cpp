@@ -3,10 +3,15 @@
 #include <algorithm>
 #include <chrono>
 #include <cstdio>
+#include <cstring>
 
 #include <SDL.h>
 
+#include "platform/headless_host.h"
+#include "platform/screenshot_file.h"
+#include "shell/game_state.h"
 #include "shell/paths.h"
+#include "shell/screenshot.h"
 
 namespace lf {
 namespace {
@@ -88,6 +93,8 @@ bool SdlHost::Open(const WindowOptions& options, std::string& error) {
   SDL_RenderClear(renderer_);
   SDL_RenderPresent(renderer_);
   pacer_ = FramePacer(SDL_GetPerformanceFrequency(), 60);
+  sessionSeed_ = static_cast<std::uint64_t>(std::chrono::system_clock::now().time_since_epoch().count());
+  frame_.assign(static_cast<std::size_t>(kW) * kH, 0);
   if (Verbose()) {
     SDL_RendererInfo info{};
     SDL_GetRendererInfo(renderer_, &info);
@@ -106,6 +113,7 @@ Letterbox SdlHost::MouseBox() const {
 void SdlHost::ToggleFullscreen() {
   const bool full = (SDL_GetWindowFlags(window_) & SDL_WINDOW_FULLSCREEN_DESKTOP) != 0;
   SDL_SetWindowFullscreen(window_, full ? 0 : SDL_WINDOW_FULLSCREEN_DESKTOP);
+  if (onWindowChange) onWindowChange(!full, 0);
 }
 
 void SdlHost::HandleEvent(const SDL_Event& e, std::vector<InputEvent>& out) {
@@ -115,6 +123,13 @@ void SdlHost::HandleEvent(const SDL_Event& e, std::vector<InputEvent>& out) {
       break;
     case SDL_WINDOWEVENT:
       if (e.window.event == SDL_WINDOWEVENT_CLOSE) PushClose(out);
+      // A window the player resized keeps its whole-number scale for the
+      // next start; fullscreen sizes are not the player's choice of scale.
+      if (e.window.event == SDL_WINDOWEVENT_RESIZED && onWindowChange &&
+          !(SDL_GetWindowFlags(window_) & SDL_WINDOW_FULLSCREEN_DESKTOP)) {
+        const int scale = std::max(1, std::min(e.window.data1 / kW, e.window.data2 / kH));
+        onWindowChange(false, scale);
+      }
       break;
     case SDL_MOUSEMOTION:
       WindowToScreen(MouseBox(), e.motion.x, e.motion.y, cursorX_, cursorY_);
@@ -138,6 +153,10 @@ void SdlHost::HandleEvent(const SDL_Event& e, std::vector<InputEvent>& out) {
         if (!e.key.repeat) ToggleFullscreen();
         break;
       }
+      if (sym == SDLK_F12) {
+        if (!e.key.repeat) out.push_back(InputEvent{InputEvent::Kind::KeyDown, 1, kScreenshotKey});
+        break;
+      }
       const int code = GameKeyCode(sym);
       // Held arrows repeat and keep the view moving; a held Escape opens
       // the menu once.
@@ -158,6 +177,10 @@ void SdlHost::PumpInput(std::vector<InputEvent>& out) {
 }
 
 void SdlHost::Present(const std::uint16_t* pixels, int pitchBytes) {
+  const auto* bytes = reinterpret_cast<const std::uint8_t*>(pixels);
+  for (int y = 0; y < kH; ++y)
+    std::memcpy(frame_.data() + static_cast<std::size_t>(y) * kW, bytes + static_cast<std::ptrdiff_t>(y) * pitchBytes,
+                kW * sizeof(std::uint16_t));
   SDL_UpdateTexture(texture_, nullptr, pixels, pitchBytes);
   ShowTexture(texture_);
 }
@@ -222,8 +245,8 @@ void SdlHost::PaceFrame() {
   }
 }
 
-std::uint64_t SdlHost::ClockSeed() {
-  return static_cast<std::uint64_t>(std::chrono::system_clock::now().time_since_epoch().count());
-}
+std::uint64_t SdlHost::ClockSeed() { return HeadlessSeed(sessionSeed_, G.Frame); }
+
+bool SdlHost::SaveScreenshot(std::string& where) { return WriteScreenshot(frame_.data(), where); }
 
 }  // namespace lf

@@ -5,6 +5,7 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -40,7 +41,15 @@ class SdlHost : public Host {
   void GetCursorPos(int& x, int& y) override;
   void SetCursorPos(int x, int y) override;
   void PaceFrame() override;
+  // One seed drawn from the wall clock when the window opens, mixed with
+  // the frame counter as a headless run does, so a recorded session replays.
   std::uint64_t ClockSeed() override;
+  std::uint64_t SessionSeed() const { return sessionSeed_; }
+  bool SaveScreenshot(std::string& where) override;
+
+  // Told when the player toggles fullscreen or resizes the window: the new
+  // fullscreen state and the window's whole-number scale.
+  std::function<void(bool fullscreen, int scale)> onWindowChange;
 
   // Shows one picture of a clip scaled into the window and handles the
   // window's events: false when a key or click ends the clip (that press is
@@ -64,6 +73,8 @@ class SdlHost : public Host {
   bool videoStarted_ = false;
   int cursorX_ = 320, cursorY_ = 240;
   FramePacer pacer_{1, 60};
+  std::uint64_t sessionSeed_ = 0;
+  std::vector<std::uint16_t> frame_;  // the last frame shown, for F12
 };
 
 // The game's code for an SDL key, or 0 for a key the game ignores.

@@ -5,6 +5,7 @@
 
 #include <cstdint>
 #include <deque>
+#include <string>
 #include <utility>
 #include <vector>
 
@@ -34,6 +35,12 @@ class Host {
   virtual void PaceFrame() = 0;
   // The seed for "seed the random generator from the clock".
   virtual std::uint64_t ClockSeed() = 0;
+  // Saves the last shown frame as a picture for the player (F12): true with
+  // `where` the file, false with `where` the reason.
+  virtual bool SaveScreenshot(std::string& where) {
+    where = "screenshots are not taken here";
+    return false;
+  }
 };
 
 // A host for tests: input is queued by the test and delivered one batch a

@@ -8,6 +8,7 @@
 #include "shell/game_state.h"
 #include "shell/menu.h"
 #include "shell/screens.h"
+#include "shell/screenshot.h"
 #include "station/station_procedures.h"
 
 namespace lf {
@@ -37,6 +38,7 @@ void Form_KeyDown(int KeyCode) {
     case 38: Assign(G.ViewY, G.ViewY - 7.0); break;
     case 39: G.ViewX += 7; break;
     case 40: Assign(G.ViewY, G.ViewY + 7.0); break;
+    case kScreenshotKey: TakeScreenshot(); break;
     default: break;
   }
 }

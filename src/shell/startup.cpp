@@ -6,6 +6,7 @@
 #include "shell/menu.h"
 #include "shell/program.h"
 #include "shell/screens.h"
+#include "shell/screenshot.h"
 
 namespace lf {
 
@@ -18,7 +19,7 @@ void Form_Load() {
   PlayTrack(2);
   G.MenuActive = True;
   G.NoGameRunning = True;
-  G.TooltipsOn = True;
+  G.TooltipsOn = TooltipsAtStart() ? True : False;
   Skip(LoadMenuBitmaps);
   DrawMainMenu();
 }

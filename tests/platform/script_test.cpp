@@ -85,15 +85,18 @@ TEST(ScriptParser, NamesTheLineAndWhatIsWrong) {
   EXPECT_EQ(ErrorOf("frames 99999999999999999999"),
             "script:1: frame count 99999999999999999999 is out of range 0..1000000000");
   EXPECT_EQ(ErrorOf("key 13"),
-            "script:1: key code 13 is not one of 27 (Escape), 37 (Left), 38 (Up), 39 (Right), 40 (Down)");
+            "script:1: key code 13 is not one of 27 (Escape), 37 (Left), 38 (Up), 39 (Right), 40 (Down), 123 (F12)");
   EXPECT_EQ(ErrorOf("key 300"), "script:1: key code 300 is out of range 0..255");
+  EXPECT_EQ(ErrorOf("seed -1"), "script:1: seed \"-1\" is not a number");
+  EXPECT_EQ(ErrorOf("seed 18446744073709551616"), "script:1: seed \"18446744073709551616\" is not a number");
+  EXPECT_EQ(ParseScript("seed 18446744073709551615").at(0).seed, 18446744073709551615ull);
 }
 
 TEST(ScriptParser, ReportsTheFirstBadLine) {
   EXPECT_EQ(ErrorOf("frames 1\nfoo\nbar\n"), "script:2: unknown command \"foo\"");
   // Line numbers count comment and blank lines, and CRLF endings.
   EXPECT_EQ(ErrorOf("# x\r\n\r\nframes 1\r\nkey 1\r\n"),
-            "script:4: key code 1 is not one of 27 (Escape), 37 (Left), 38 (Up), 39 (Right), 40 (Down)");
+            "script:4: key code 1 is not one of 27 (Escape), 37 (Left), 38 (Up), 39 (Right), 40 (Down), 123 (F12)");
 }
 
 }  // namespace
