@@ -26,29 +26,6 @@ void a_DrawStockPrices() {}
 void a_DrawCashCargo() {}
 void a_CheckMouseDown3() {}
 
-// --- Screen 2, the meeting lounge (a_DrawCash and a_DrawSpecialEquip also
-// serve the fleet office and the guilds).
-void a_DrawStationCrew() {}
-void a_DrawCrewInfo() {}
-void a_DrawCrewMembers() {}
-void a_DrawStationNews() {}
-void a_DrawBarSelection() {}
-void a_DrawCash() {}
-void a_DrawSpecialEquip(int) {}
-void a_CheckMouseDown2() {}
-void a_ChangeNewsText() {}
-
-// --- Screen 4, the ship dealer.
-void a_DetermineStationEquip() {}
-void a_DrawCompAnim() {}
-void a_DrawHardPList() {}
-void a_DrawCompInfo() {}
-void a_DrawGroupSelection() {}
-void a_DrawStationEquip() {}
-void a_DrawDealerButts() {}
-void a_DrawCashCarry() {}
-void a_CheckMouseDown4() {}
-
 // --- Screen 5, the fleet office and its loans.
 void a_DrawFedText() {}
 void a_DrawFedTrans() {}
@@ -73,6 +50,9 @@ void DrawGuildMembership() {}
 // --- Missions: the boards, their notices, and the station's steps.
 void a_DrawGuildMissions(int) {}
 void a_DrawGuildMissionDesc(int) {}
+void a_MissionSelection(int) {}
+// No board holds a mission yet.
+int MissionOnBoardLine(int, int) { return 0; }
 void a_DrawMissionUnAvail() {}
 void a_DrawMissionUnAvail2() {}
 void a_DrawMissionUnAvail3() {}

@@ -103,6 +103,10 @@ void DrawGuildMembership();
 // lounge), their notices, and the station's share of the lifecycle.
 void a_DrawGuildMissions(int board);
 void a_DrawGuildMissionDesc(int board);
+// Takes the open offer of the board.
+void a_MissionSelection(int board);
+// The mission on line 1..10 of a board, 0 for none.
+int MissionOnBoardLine(int board, int line);
 void a_DrawMissionUnAvail();
 void a_DrawMissionUnAvail2();
 void a_DrawMissionUnAvail3();

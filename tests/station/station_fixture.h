@@ -1,0 +1,81 @@
+// Test support for the station's screens: the catalogue, a quadrant of our
+// own making with the ship docked at body 1, a few persons, and presses
+// that go through the screen handlers.
+#pragma once
+
+#include "shell/game_state.h"
+#include "station/dealer.h"
+#include "station/station_common.h"
+#include "station/station_procedures.h"
+#include "station/lounge.h"
+#include "support/shell_fixture.h"
+#include "universe/catalogue.h"
+#include "universe/new_game.h"
+
+namespace lf::test {
+
+class StationScreenTest : public ShellTest {
+ protected:
+  void SetUp() override {
+    ShellTest::SetUp();
+    DefineShipSpecs();
+    G.CurrentQuadrant = 1;
+    G.PlanetCount = 3;
+    G.ShipX = G.ShipY = 1000;
+    Body(1, 1000, 1000, 1, 1);  // the station, Human
+    Body(2, 3000, 1000, 1, 0);  // a Human world without a station
+    Body(3, 3000, 3000, 2, 0);  // a Hagel world
+    for (int c = 1; c <= 144; ++c) {
+      G.Character[c].Name = "PERSON " + std::to_string(c);
+      G.Character[c].Post = static_cast<std::int16_t>((c - 1) % 24 / 4 + 1);
+      G.Character[c].Skill = 3;
+      G.Character[c].Salary = 300;
+    }
+    G.StationActive = True;
+    G.Cash = 50000;
+  }
+
+  static void Body(int i, double x, double y, int race, double station) {
+    G.Planet[i].X = x;
+    G.Planet[i].Y = y;
+    G.Planet[i].Width = 50;
+    G.Planet[i].Race = static_cast<std::int16_t>(race);
+    G.Planet[i].HasStation = station;
+  }
+
+  // The docked station's race (7 makes it a pirate station) and quadrant.
+  static void DockAt(int race, int quadrant) {
+    G.Planet[1].Race = static_cast<std::int16_t>(race);
+    G.CurrentQuadrant = static_cast<std::int16_t>(quadrant);
+  }
+
+  // A hull of the catalogue, as bought, with nothing fitted.
+  static void OwnHull(int race, int hullClass) {
+    const HullRecord& h = G.Hull[race][hullClass];
+    G.HullRace = static_cast<std::int16_t>(race);
+    G.HullClass = static_cast<std::int16_t>(hullClass);
+    G.HullPoints = G.HullPointsMax = h.HullPoints;
+    G.HardpointCount = h.Hardpoints;
+    G.FreeMass = h.CarryAmount;
+    G.FreeCargo = h.CargoHold;
+  }
+
+  // A component in a slot at full health, its weight taken from FreeMass.
+  static void Fit(int slot, int group, int model) {
+    G.FittedComp[slot][1] = static_cast<std::int16_t>(group);
+    G.FittedComp[slot][2] = static_cast<std::int16_t>(model);
+    G.FittedHealth[slot] = ComponentFullHealth(group, model);
+    Assign(G.FreeMass, G.FreeMass - ComponentWeight(group, model));
+  }
+
+  void PressDealer(int x, int y) {
+    PointAt(x, y);
+    a_CheckMouseDown4();
+  }
+  void PressLounge(int x, int y) {
+    PointAt(x, y);
+    a_CheckMouseDown2();
+  }
+};
+
+}  // namespace lf::test
