@@ -1,4 +1,4 @@
-#include "station/station_text.h"
+#include "station/station_lines.h"
 
 #include <cstdio>
 

@@ -3,6 +3,11 @@
 // that go through the screen handlers.
 #pragma once
 
+#include <algorithm>
+#include <string>
+#include <vector>
+
+#include "display/gfx.h"
 #include "shell/game_state.h"
 #include "station/dealer.h"
 #include "station/station_common.h"
@@ -66,6 +71,42 @@ class StationScreenTest : public ShellTest {
     G.FittedComp[slot][2] = static_cast<std::int16_t>(model);
     G.FittedHealth[slot] = ComponentFullHealth(group, model);
     Assign(G.FreeMass, G.FreeMass - ComponentWeight(group, model));
+  }
+
+  // Every letter typed out in full.
+  static void FadeAllIn() {
+    for (auto& line : G.PromptFade)
+      for (double& letter : line) letter = 3;
+  }
+
+  // The text that the last draws wrote in the 8x8 font on the row at y,
+  // between x from and to, blanks restored from the gaps; and the font row
+  // of its first letter (its fade row taken off).
+  static std::string OcrText(int y, int from = 0, int to = 640) {
+    static const char* const kSet[] = {" ", "1", "2", "3", "4", "5", "6", "7", "8", "9", "0", "A", "B",
+                                       "C", "D", "E", "F", "G", "H", "I", "J", "K", "L", "M", "N", "O",
+                                       "P", "Q", "R", "S", "T", "U", "V", "W", "X", "Y", "Z", ".", ",",
+                                       "?", "!", ":", "-", "(", ")", "%", "Š", "+", "&", "/", " "};
+    std::vector<BlitRecord> letters = Letters(y, from, to);
+    std::string text;
+    int last = letters.empty() ? 0 : letters.front().x - 6;
+    for (const BlitRecord& b : letters) {
+      for (int gap = (b.x - last) / 6 - 1; gap > 0; --gap) text += ' ';
+      text += kSet[b.left / 8 + 1];
+      last = b.x;
+    }
+    return text;
+  }
+  static int OcrRow(int y, int from = 0, int to = 640) {
+    const std::vector<BlitRecord> letters = Letters(y, from, to);
+    return letters.empty() ? -1 : letters.front().top - 16;
+  }
+  static std::vector<BlitRecord> Letters(int y, int from, int to) {
+    std::vector<BlitRecord> out;
+    for (const BlitRecord& b : BlitsOf(GFX.StationFontOcr))
+      if (b.y == y && b.x >= from && b.x < to) out.push_back(b);
+    std::stable_sort(out.begin(), out.end(), [](const BlitRecord& a, const BlitRecord& b) { return a.x < b.x; });
+    return out;
   }
 
   void PressDealer(int x, int y) {
