@@ -14,9 +14,9 @@ namespace {
 class ScreensRobustnessTest : public StationScreenTest {
  protected:
   // Presses down the screen every 7 pixels (no band of the screens is
-  // thinner than 8) in columns that cross every
-  // control of both screens, the screen drawn after each; the cash may only
-  // fall while it stays at zero or above.
+  // thinner than 8), in columns that cross every control of both screens,
+  // the screen drawn after each; the cash may only fall while it stays at
+  // zero or above.
   void Sweep(void (*press)(), void (*draw)()) {
     static constexpr int kColumns[] = {5, 30, 100, 245, 262, 288, 300, 360, 424, 440, 460, 500, 550, 564, 580, 590, 620};
     for (int y = 2; y < 480; y += 7) {
