@@ -10,6 +10,7 @@
 #include "station/station_procedures.h"
 #include "station/dealer_rules.h"
 #include "station/station_lines.h"
+#include "station/station_text.h"
 #include "universe/catalogue.h"
 
 namespace lf {
@@ -224,8 +225,8 @@ void a_DrawDealerButts() {
 }
 
 void a_DrawCashCarry() {
-  DrawLargeTextRight(88, 435, NumberText(G.Cash).View());
-  DrawLargeTextRight(212, 435, NumberText(G.FreeMass).View());
+  DrawImpTextRight(88, 435, NumberText(G.Cash).View());
+  DrawImpTextRight(212, 435, NumberText(G.FreeMass).View());
 }
 
 }  // namespace lf

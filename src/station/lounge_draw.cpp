@@ -11,6 +11,7 @@
 #include "station/station_procedures.h"
 #include "station/lounge.h"
 #include "station/station_lines.h"
+#include "station/station_text.h"
 #include "universe/catalogue.h"
 #include "universe/characters.h"
 
@@ -132,6 +133,6 @@ void a_DrawBarSelection() {
   BltFast(58, 270, GFX.CharacterFace[person], false);
 }
 
-void a_DrawCash() { DrawLargeTextRight(88, 435, NumberText(G.Cash).View()); }
+void a_DrawCash() { DrawImpTextRight(88, 435, NumberText(G.Cash).View()); }
 
 }  // namespace lf

@@ -48,16 +48,4 @@ void DrawFadeTextRight(int right, int y, std::string_view text, int fadeLine, in
   DrawFadeText(right - 6 * CodePointCount(text), y, text, fadeLine, rowOffset);
 }
 
-void DrawLargeText(int x, int y, std::string_view text) {
-  ForEachCell(text, [&](int k, int cell) {
-    if (cell < 0) return;
-    SetSrc(12 * cell, 0, 12 * cell + 12, 14);
-    BltFast(x + 12 * k, y, GFX.StationFontImp, true);
-  });
-}
-
-void DrawLargeTextRight(int right, int y, std::string_view text) {
-  DrawLargeText(right - 12 * CodePointCount(text), y, text);
-}
-
 }  // namespace lf

@@ -1,6 +1,6 @@
-// Text on the station's screens: the 8x8 letters of ocr.bmp, which type
-// themselves out from PromptFade, and the 12x14 letters of the large font.
-// Lines are written in pieces, so that no frame builds a string.
+// Lines of the dealer's and the lounge's screens in the 8x8 letters of
+// ocr.bmp, written in pieces (a label, a name, a number) so that no frame
+// builds a string; and text that is shown whole, without typing itself out.
 #pragma once
 
 #include <array>
@@ -37,10 +37,5 @@ class FadeLine {
 // A whole line of 8x8 letters, and one whose last letter stands at x = right.
 void DrawFadeText(int x, int y, std::string_view text, int fadeLine, int rowOffset);
 void DrawFadeTextRight(int right, int y, std::string_view text, int fadeLine, int rowOffset);
-
-// Large letters, letter i (from 1) at x + 12i; right-aligned so that the
-// last letter stands at x = right.
-void DrawLargeText(int x, int y, std::string_view text);
-void DrawLargeTextRight(int right, int y, std::string_view text);
 
 }  // namespace lf

@@ -119,6 +119,19 @@ TEST_F(LoungeTest, DismissingSendsTheOfficerToAWorldOfTheStationsRaceWithoutASta
   EXPECT_EQ(MediaLog().size(), 2u);
 }
 
+TEST_F(LoungeTest, DismissingTheLastOfficerKeepsTheShipInTheStation) {
+  Fit(1, 4, 1);
+  Fit(2, 5, 1);
+  Hire(3);  // the engineer
+  ASSERT_EQ(G.CrewPost[6].Person, 21);
+  Dismiss(6);
+  a_ExitStation();
+  EXPECT_EQ(G.TermPrompt, 507);
+  EXPECT_EQ(G.TermLine[1], "SIR! YOU HAVE NO CREWMEMBERS");
+  EXPECT_EQ(G.MayDepart, False);
+  EXPECT_EQ(G.StationActive, True);
+}
+
 TEST_F(LoungeTest, TheNewsLineMovesDownAsTheListGrowsAndOnlyPiratesMakeAnOffer) {
   EXPECT_EQ(NewsLine(), 4);
   EXPECT_EQ(OfferLine(), 0);
