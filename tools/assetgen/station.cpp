@@ -6,6 +6,7 @@
 #include "families.h"
 #include "noise.h"
 #include "sprites.h"
+#include "turntable.h"
 
 namespace assetgen {
 namespace {
@@ -73,6 +74,10 @@ void StationMap(cairo_t* cr, int q) {
   cairo_fill(cr);
 }
 
+// The small headings of the dealer's and the lounge's panels.
+constexpr Rgb kLabel{0.26, 0.66, 0.76};
+constexpr Rgb kAmberLabel{0.80, 0.55, 0.16};
+
 void StationScreen(Canvas& cv, std::string_view name, uint32_t seed) {
   cairo_t* cr = cv.cr();
   SteelPlate(cr, 0, 0, 640, 480, seed);
@@ -129,8 +134,15 @@ void StationScreen(Canvas& cv, std::string_view name, uint32_t seed) {
     Frame(cr, 505, 424, 109, 34, kAmber);
     Text(cr, "EXIT", 560, 446, 12, kAmber, Align::Center);
   } else if (name == "ship_dealer") {
+    // The game turns the chosen item at (14, 20), writes its figures from
+    // (278, 63), marks the chosen group with select.bmp, lists the ship's
+    // hull and fifteen hardpoints from y 248 (x 46..230), the goods from
+    // y 275 every 27 (x 358..), stands its tall buttons at x 252, 278, 554
+    // and 580 from y 245, and writes the cash at 88 and the free carry
+    // amount at 212 on y 435.
     Frame(cr, 14, 20, 200, 200, kCyan);
     Frame(cr, 262, 30, 360, 130, kCyan);
+    Text(cr, "SPECIFICATIONS", 612, 44, 8, kLabel, Align::Right, true, true);
     static constexpr const char* kGroups[] = {"HULLS", "BEAMS", "LAUNCHERS", "SHIELDS", "GENERATORS", "PROPULSION",
                                               "SENSORS", "COMPUTERS", "UNFITTED"};
     for (int i = 0; i < 9; ++i) {
@@ -139,8 +151,45 @@ void StationScreen(Canvas& cv, std::string_view name, uint32_t seed) {
       Text(cr, kGroups[i], x + 56, y + 12, 8, kCyan, Align::Center, true, true);
     }
     Frame(cr, 20, 244, 230, 150, kCyan);
-    Frame(cr, 350, 244, 200, 280 - 40, kCyan);
+    Text(cr, "YOUR SHIP", 30, 238, 8, kLabel, Align::Left, true, true);
+    Text(cr, "CONDITION", 240, 238, 8, kLabel, Align::Right, true, true);
+    FillRect(cr, 22, 257, 226, 1, {0.08, 0.22, 0.26});  // under the hull line
+    Frame(cr, 350, 244, 200, 150, kCyan);
+    Text(cr, "FOR SALE", 450, 238, 8, kLabel, Align::Center, true, true);
+    for (int n = 1; n <= 4; ++n) FillRect(cr, 356, 248 + 27 * n + 12, 188, 1, {0.06, 0.16, 0.19});
     Frame(cr, 10, 424, 220, 34, kAmber);
+    FillRect(cr, 120, 428, 1, 26, kAmberDim);
+    Text(cr, "CREDITS", 60, 470, 8, kAmberLabel, Align::Center, true, true);
+    Text(cr, "FREE MASS", 175, 470, 8, kAmberLabel, Align::Center, true, true);
+    Frame(cr, 505, 424, 109, 34, kAmber);
+    Text(cr, "EXIT", 560, 446, 12, kAmber, Align::Center);
+  } else if (name == "bar") {
+    // The game lists the people waiting from (256, 70) every 14 lines, the
+    // crew posts from (451, 70) every 24 with a dismiss button at x
+    // 430..450, shows the chosen one's picture at (58, 270) and page from
+    // (176, 285) every 15, the confirm button at (570, 367), and the cash
+    // right-aligned at 88 on y 435.
+    Frame(cr, 240, 50, 172, 196, kCyan);
+    Text(cr, "AT THE BAR", 326, 44, 8, kLabel, Align::Center, true, true);
+    Frame(cr, 424, 50, 196, 150, kCyan);
+    Text(cr, "YOUR CREW", 522, 44, 8, kLabel, Align::Center, true, true);
+    for (int post = 1; post <= 6; ++post) {
+      const double top = 70 + 24 * (post - 1);
+      Bevel(cr, 431, top, 18, 9, {0.45, 0.12, 0.10}, 1);
+      cairo_set_line_width(cr, 1.2);
+      SetColor(cr, {1.0, 0.75, 0.7});
+      cairo_move_to(cr, 437, top + 2);
+      cairo_line_to(cr, 443, top + 7);
+      cairo_move_to(cr, 443, top + 2);
+      cairo_line_to(cr, 437, top + 7);
+      cairo_stroke(cr);
+      FillRect(cr, 452, top + 14, 164, 1, {0.06, 0.16, 0.19});
+    }
+    Text(cr, "DISMISS", 440, 214, 7, kLabel, Align::Center, true, true);
+    Frame(cr, 58, 270, 80, 100, kAmber);           // picture
+    Frame(cr, 160, 262, 460, 150, kCyan);          // text
+    Frame(cr, 10, 424, 220, 34, kAmber);
+    Text(cr, "CREDITS", 60, 470, 8, kAmberLabel, Align::Center, true, true);
     Frame(cr, 505, 424, 109, 34, kAmber);
     Text(cr, "EXIT", 560, 446, 12, kAmber, Align::Center);
   } else {
@@ -198,62 +247,6 @@ void ServicePicture(Canvas& cv, std::string_view name, uint32_t seed) {
   Bevel(cr, 0, 0, 100, 2, kSteel, 0);
 }
 
-// One turntable frame of a component or a hull.
-void Turntable(Canvas& cv, int group, int model, int race, int hullClass, int frames) {
-  cairo_t* cr = cv.cr();
-  for (int f = 0; f < frames; ++f) {
-    const double x = f * 200, a = 2 * M_PI * f / frames;
-    cairo_save(cr);
-    cairo_rectangle(cr, x, 0, 200, 200);
-    cairo_clip(cr);
-    // floor ring
-    cairo_save(cr);
-    cairo_translate(cr, x + 100, 160);
-    cairo_scale(cr, 1, 0.25);
-    cairo_arc(cr, 0, 0, 80, 0, 2 * M_PI);
-    cairo_restore(cr);
-    cairo_set_source_rgb(cr, 0.10, 0.30, 0.35);
-    cairo_set_line_width(cr, 2);
-    cairo_stroke(cr);
-    if (group == 10) {
-      cairo_save(cr);
-      cairo_translate(cr, x + 100, 100);
-      cairo_scale(cr, 1, 0.55 + 0.2 * std::cos(a));
-      ShipShape(cr, 0, 0, 150, a, race, hullClass);
-      cairo_restore(cr);
-    } else {
-      // a machine: a box with fins whose look depends on group and model
-      const Rgb body = Mix({0.45, 0.48, 0.55}, RaceAccent(1 + (model % 6)), 0.25);
-      const double w = 40 + 6 * (model % 4), h = 50 + 5 * (model % 3);
-      const double c = std::cos(a), s = std::sin(a);
-      const double bx = x + 100, by = 95;
-      for (int face = 0; face < 2; ++face) {
-        const double sgn = face ? 1 : -1, k = face ? s : c;
-        cairo_move_to(cr, bx, by - h / 2);
-        cairo_line_to(cr, bx + sgn * w * std::fabs(k), by - h / 2 - 8 * std::fabs(k));
-        cairo_line_to(cr, bx + sgn * w * std::fabs(k), by + h / 2 - 8 * std::fabs(k));
-        cairo_line_to(cr, bx, by + h / 2);
-        cairo_close_path(cr);
-        SetColor(cr, Scale(body, face ? 0.6 + 0.3 * std::fabs(s) : 0.6 + 0.3 * std::fabs(c)));
-        cairo_fill(cr);
-      }
-      // group marks
-      const Rgb glow = group == 1 ? kRed : group == 3 ? kAmber : group == 7 ? kCyan : group == 4 ? kGreen : kWhite;
-      cairo_arc(cr, bx, by - h / 2 - 10, 6 + 2 * std::sin(a * 2), 0, 2 * M_PI);
-      SetColor(cr, glow);
-      cairo_fill(cr);
-      if (group == 1 || group == 3) {
-        cairo_set_line_width(cr, 5);
-        SetColor(cr, Scale(body, 0.5));
-        cairo_move_to(cr, bx, by);
-        cairo_line_to(cr, bx + 60 * c, by - 20 - 10 * s);
-        cairo_stroke(cr);
-      }
-    }
-    cairo_restore(cr);
-  }
-}
-
 }  // namespace
 
 bool DrawStation(const BitmapSpec& spec, Canvas& cv) {
@@ -273,14 +266,14 @@ bool DrawStation(const BitmapSpec& spec, Canvas& cv) {
   }
   if (StartsWith(p, "gfx/station/comps/10_")) {
     const std::string_view n = p.substr(21);
-    Turntable(cv, 10, 0, n[0] - '0', n[2] - '0', spec.frames);
+    DrawTurntable(cv, 10, 0, n[0] - '0', n[2] - '0', spec.frames);
     return true;
   }
   if (StartsWith(p, "gfx/station/comps/")) {
     const std::string_view n = p.substr(18);
     const int g = NumberAfter(n, "");
     const int m = NumberAfter(n.substr(n.find('_') + 1), "");
-    Turntable(cv, g, m, 0, 0, spec.frames);
+    DrawTurntable(cv, g, m, 0, 0, spec.frames);
     return true;
   }
   const std::string_view n = p.substr(19);  // after a_misc/
