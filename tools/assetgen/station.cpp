@@ -6,6 +6,7 @@
 #include "families.h"
 #include "noise.h"
 #include "sprites.h"
+#include "turntable.h"
 
 namespace assetgen {
 namespace {
@@ -18,6 +19,64 @@ void Frame(cairo_t* cr, double x, double y, double w, double h, Rgb c) {
   cairo_rectangle(cr, x + 0.5, y + 0.5, w - 1, h - 1);
   cairo_stroke(cr);
 }
+
+// The terminal's map of the station of quadrant q: a hub and seven modules
+// where the game blinks its marker over the service under the cursor
+// (marker positions by quadrant, the marker 60x45 for the exchange and the
+// dealer, 40x30 for the others).
+void StationMap(cairo_t* cr, int q) {
+  struct Module { int x[4], y[4]; bool big; };
+  static constexpr Module kModules[7] = {
+      {{62, 110, 30, 70}, {140, 160, 220, 200}, false},     // lounge
+      {{140, 180, 70, 130}, {117, 170, 240, 260}, true},    // exchange
+      {{250, 150, 150, 40}, {144, 230, 230, 140}, true},    // dealer
+      {{143, 70, 230, 230}, {100, 240, 230, 220}, false},   // fleet office
+      {{90, 100, 100, 160}, {260, 280, 160, 190}, false},   // exploration
+      {{210, 150, 200, 130}, {240, 300, 160, 150}, false},  // merchant
+      {{148, 200, 150, 240}, {264, 250, 290, 290}, false},  // mercenary
+  };
+  const int k = (q - 1) % 4;
+  // A faint schematic grid.
+  for (int x = 30; x < 340; x += 20) FillRect(cr, x, 90, 1, 296, {0.05, 0.12, 0.14});
+  for (int y = 100; y < 386; y += 20) FillRect(cr, 22, y, 316, 1, {0.05, 0.12, 0.14});
+  double hx = 0, hy = 0;
+  for (const Module& m : kModules) {
+    hx += m.x[k] + (m.big ? 30 : 20);
+    hy += m.y[k] + (m.big ? 22 : 15);
+  }
+  hx /= 7;
+  hy /= 7;
+  cairo_set_line_cap(cr, CAIRO_LINE_CAP_ROUND);
+  for (const Module& m : kModules) {
+    const double cx = m.x[k] + (m.big ? 30 : 20), cy = m.y[k] + (m.big ? 22 : 15);
+    cairo_set_line_width(cr, 7);
+    SetColor(cr, kSteel);
+    cairo_move_to(cr, hx, hy);
+    cairo_line_to(cr, cx, cy);
+    cairo_stroke(cr);
+    cairo_set_line_width(cr, 1);
+    SetColor(cr, kCyanDim);
+    cairo_move_to(cr, hx, hy);
+    cairo_line_to(cr, cx, cy);
+    cairo_stroke(cr);
+  }
+  for (const Module& m : kModules) {
+    const double w = m.big ? 30 : 22, h = m.big ? 22 : 16;
+    const double cx = m.x[k] + (m.big ? 30 : 20), cy = m.y[k] + (m.big ? 22 : 15);
+    Bevel(cr, cx - w / 2, cy - h / 2, w, h, kSteelLight, 2);
+    FillRect(cr, cx - w / 2 + 4, cy - 1.5, w - 8, 3, kCyan, 0.8);
+  }
+  cairo_arc(cr, hx, hy, 16, 0, 2 * M_PI);
+  SetColor(cr, kSteelLight);
+  cairo_fill(cr);
+  cairo_arc(cr, hx, hy, 7, 0, 2 * M_PI);
+  SetColor(cr, kCyan);
+  cairo_fill(cr);
+}
+
+// The small headings of the dealer's and the lounge's panels.
+constexpr Rgb kLabel{0.26, 0.66, 0.76};
+constexpr Rgb kAmberLabel{0.80, 0.55, 0.16};
 
 void StationScreen(Canvas& cv, std::string_view name, uint32_t seed) {
   cairo_t* cr = cv.cr();
@@ -32,27 +91,58 @@ void StationScreen(Canvas& cv, std::string_view name, uint32_t seed) {
   if (name == "mercenary") title = "MERCENARY GUILD";
   Text(cr, title, 320, 18, 12, kAmber, Align::Center, true, true);
   if (StartsWith(name, "terminal")) {
-    Frame(cr, 20, 30, 320, 300, kCyan);           // station map
-    StationShape(cr, 180, 180, 120, 0.2, (NumberAfter(name, "terminal_") - 1) % 4 + 1);
-    Frame(cr, 350, 30, 250, 170, kCyan);          // log-on text
-    Frame(cr, 360, 200, 240, 205, kAmber);        // services
+    // The game writes "WELCOME TO" and the station's name above the map at
+    // y 40..76, types its text centred on y 120 from x 366, lists the
+    // services right-aligned at x 593 from y 208, shows the chosen
+    // service's picture at (484, 338), its answer buttons at x 605..640,
+    // y 103..169, and leaves the station through x 39..293, y 396..440.
+    Frame(cr, 20, 88, 320, 300, kCyan);           // station map
+    StationMap(cr, NumberAfter(name, "terminal_"));
+    Frame(cr, 354, 54, 248, 134, kCyan);          // log-on text
+    Text(cr, "STATION MAINFRAME", 478, 47, 8, Scale(kCyan, 0.75), Align::Center, true, true);
+    Frame(cr, 364, 200, 242, 132, kAmber);        // services
     Frame(cr, 484, 338, 100, 100, kAmber);        // service picture
-    Frame(cr, 606, 100, 30, 72, kCyan);           // yes / no
+    Frame(cr, 606, 100, 32, 72, kCyan);           // yes / no, OK
+    Bevel(cr, 40, 397, 252, 42, kSteel, 2);       // the way out
+    Text(cr, "DEPART STATION", 166, 424, 13, kAmber, Align::Center, true, true);
   } else if (name == "commodity") {
+    // Rows of 19 from y 113; the game writes the stock right-aligned at
+    // 74, what the station pays at 199, the name centred on 320, what it
+    // asks at 458 and the hold at 588. The buttons: sell ten x 98..117,
+    // sell one 125..139, buy one 494..508, buy ten 516..535.
     Frame(cr, 10, 110, 620, 276, kCyan);
-    for (int i = 0; i < 14; ++i) FillRect(cr, 12, 113 + 19 * i + 18, 616, 1, {0.1, 0.25, 0.3});
-    for (double x : {98.0, 125.0, 494.0, 516.0}) FillRect(cr, x, 112, 1, 272, {0.1, 0.25, 0.3});
-    Text(cr, "STOCK", 40, 100, 9, kCyanDim, Align::Center, true, true);
-    Text(cr, "SELL", 170, 100, 9, kCyanDim, Align::Center, true, true);
-    Text(cr, "GOODS", 320, 100, 9, kCyanDim, Align::Center, true, true);
-    Text(cr, "BUY", 430, 100, 9, kCyanDim, Align::Center, true, true);
-    Text(cr, "CARGO", 560, 100, 9, kCyanDim, Align::Center, true, true);
+    for (int i = 0; i < 14; ++i) {
+      const double top = 113 + 19 * i;
+      if (i % 2 == 1) FillRect(cr, 12, top + 1, 616, 18, {0.05, 0.09, 0.11});
+      struct Button { double x, w; const char* label; Rgb c; };
+      for (const Button& b : {Button{99, 18, "10", kAmber}, Button{126, 13, "1", kAmber},
+                              Button{495, 13, "1", kGreen}, Button{517, 18, "10", kGreen}}) {
+        Bevel(cr, b.x, top + 3, b.w, 15, kSteel, 1);
+        Text(cr, b.label, b.x + b.w / 2, top + 14, 7, Scale(b.c, 0.85), Align::Center, true, true);
+      }
+    }
+    Text(cr, "STOCK", 52, 104, 9, Scale(kCyan, 0.75), Align::Center, true, true);
+    Text(cr, "SELL", 118, 104, 9, Scale(kAmber, 0.8), Align::Center, true, true);
+    Text(cr, "PAYS", 186, 104, 9, Scale(kCyan, 0.75), Align::Center, true, true);
+    Text(cr, "GOODS", 320, 104, 9, Scale(kCyan, 0.75), Align::Center, true, true);
+    Text(cr, "ASKS", 445, 104, 9, Scale(kCyan, 0.75), Align::Center, true, true);
+    Text(cr, "BUY", 515, 104, 9, Scale(kGreen, 0.75), Align::Center, true, true);
+    Text(cr, "HOLD", 575, 104, 9, Scale(kCyan, 0.75), Align::Center, true, true);
+    Text(cr, "CREDITS", 58, 418, 8, Scale(kAmber, 0.8), Align::Center, true, true);
+    Text(cr, "FREE HOLD", 185, 418, 8, Scale(kAmber, 0.8), Align::Center, true, true);
     Frame(cr, 10, 424, 220, 34, kAmber);
     Frame(cr, 505, 424, 109, 34, kAmber);
     Text(cr, "EXIT", 560, 446, 12, kAmber, Align::Center);
   } else if (name == "ship_dealer") {
+    // The game turns the chosen item at (14, 20), writes its figures from
+    // (278, 63), marks the chosen group with select.bmp, lists the ship's
+    // hull and fifteen hardpoints from y 248 (x 46..230), the goods from
+    // y 275 every 27 (x 358..), stands its tall buttons at x 252, 278, 554
+    // and 580 from y 245, and writes the cash at 88 and the free carry
+    // amount at 212 on y 435.
     Frame(cr, 14, 20, 200, 200, kCyan);
     Frame(cr, 262, 30, 360, 130, kCyan);
+    Text(cr, "SPECIFICATIONS", 612, 44, 8, kLabel, Align::Right, true, true);
     static constexpr const char* kGroups[] = {"HULLS", "BEAMS", "LAUNCHERS", "SHIELDS", "GENERATORS", "PROPULSION",
                                               "SENSORS", "COMPUTERS", "UNFITTED"};
     for (int i = 0; i < 9; ++i) {
@@ -61,8 +151,45 @@ void StationScreen(Canvas& cv, std::string_view name, uint32_t seed) {
       Text(cr, kGroups[i], x + 56, y + 12, 8, kCyan, Align::Center, true, true);
     }
     Frame(cr, 20, 244, 230, 150, kCyan);
-    Frame(cr, 350, 244, 200, 280 - 40, kCyan);
+    Text(cr, "YOUR SHIP", 30, 238, 8, kLabel, Align::Left, true, true);
+    Text(cr, "CONDITION", 240, 238, 8, kLabel, Align::Right, true, true);
+    FillRect(cr, 22, 257, 226, 1, {0.08, 0.22, 0.26});  // under the hull line
+    Frame(cr, 350, 244, 200, 150, kCyan);
+    Text(cr, "FOR SALE", 450, 238, 8, kLabel, Align::Center, true, true);
+    for (int n = 1; n <= 4; ++n) FillRect(cr, 356, 248 + 27 * n + 12, 188, 1, {0.06, 0.16, 0.19});
     Frame(cr, 10, 424, 220, 34, kAmber);
+    FillRect(cr, 120, 428, 1, 26, kAmberDim);
+    Text(cr, "CREDITS", 60, 470, 8, kAmberLabel, Align::Center, true, true);
+    Text(cr, "FREE MASS", 175, 470, 8, kAmberLabel, Align::Center, true, true);
+    Frame(cr, 505, 424, 109, 34, kAmber);
+    Text(cr, "EXIT", 560, 446, 12, kAmber, Align::Center);
+  } else if (name == "bar") {
+    // The game lists the people waiting from (256, 70) every 14 lines, the
+    // crew posts from (451, 70) every 24 with a dismiss button at x
+    // 430..450, shows the chosen one's picture at (58, 270) and page from
+    // (176, 285) every 15, the confirm button at (570, 367), and the cash
+    // right-aligned at 88 on y 435.
+    Frame(cr, 240, 50, 172, 196, kCyan);
+    Text(cr, "AT THE BAR", 326, 44, 8, kLabel, Align::Center, true, true);
+    Frame(cr, 424, 50, 196, 150, kCyan);
+    Text(cr, "YOUR CREW", 522, 44, 8, kLabel, Align::Center, true, true);
+    for (int post = 1; post <= 6; ++post) {
+      const double top = 70 + 24 * (post - 1);
+      Bevel(cr, 431, top, 18, 9, {0.45, 0.12, 0.10}, 1);
+      cairo_set_line_width(cr, 1.2);
+      SetColor(cr, {1.0, 0.75, 0.7});
+      cairo_move_to(cr, 437, top + 2);
+      cairo_line_to(cr, 443, top + 7);
+      cairo_move_to(cr, 443, top + 2);
+      cairo_line_to(cr, 437, top + 7);
+      cairo_stroke(cr);
+      FillRect(cr, 452, top + 14, 164, 1, {0.06, 0.16, 0.19});
+    }
+    Text(cr, "DISMISS", 440, 214, 7, kLabel, Align::Center, true, true);
+    Frame(cr, 58, 270, 80, 100, kAmber);           // picture
+    Frame(cr, 160, 262, 460, 150, kCyan);          // text
+    Frame(cr, 10, 424, 220, 34, kAmber);
+    Text(cr, "CREDITS", 60, 470, 8, kAmberLabel, Align::Center, true, true);
     Frame(cr, 505, 424, 109, 34, kAmber);
     Text(cr, "EXIT", 560, 446, 12, kAmber, Align::Center);
   } else {
@@ -120,62 +247,6 @@ void ServicePicture(Canvas& cv, std::string_view name, uint32_t seed) {
   Bevel(cr, 0, 0, 100, 2, kSteel, 0);
 }
 
-// One turntable frame of a component or a hull.
-void Turntable(Canvas& cv, int group, int model, int race, int hullClass, int frames) {
-  cairo_t* cr = cv.cr();
-  for (int f = 0; f < frames; ++f) {
-    const double x = f * 200, a = 2 * M_PI * f / frames;
-    cairo_save(cr);
-    cairo_rectangle(cr, x, 0, 200, 200);
-    cairo_clip(cr);
-    // floor ring
-    cairo_save(cr);
-    cairo_translate(cr, x + 100, 160);
-    cairo_scale(cr, 1, 0.25);
-    cairo_arc(cr, 0, 0, 80, 0, 2 * M_PI);
-    cairo_restore(cr);
-    cairo_set_source_rgb(cr, 0.10, 0.30, 0.35);
-    cairo_set_line_width(cr, 2);
-    cairo_stroke(cr);
-    if (group == 10) {
-      cairo_save(cr);
-      cairo_translate(cr, x + 100, 100);
-      cairo_scale(cr, 1, 0.55 + 0.2 * std::cos(a));
-      ShipShape(cr, 0, 0, 150, a, race, hullClass);
-      cairo_restore(cr);
-    } else {
-      // a machine: a box with fins whose look depends on group and model
-      const Rgb body = Mix({0.45, 0.48, 0.55}, RaceAccent(1 + (model % 6)), 0.25);
-      const double w = 40 + 6 * (model % 4), h = 50 + 5 * (model % 3);
-      const double c = std::cos(a), s = std::sin(a);
-      const double bx = x + 100, by = 95;
-      for (int face = 0; face < 2; ++face) {
-        const double sgn = face ? 1 : -1, k = face ? s : c;
-        cairo_move_to(cr, bx, by - h / 2);
-        cairo_line_to(cr, bx + sgn * w * std::fabs(k), by - h / 2 - 8 * std::fabs(k));
-        cairo_line_to(cr, bx + sgn * w * std::fabs(k), by + h / 2 - 8 * std::fabs(k));
-        cairo_line_to(cr, bx, by + h / 2);
-        cairo_close_path(cr);
-        SetColor(cr, Scale(body, face ? 0.6 + 0.3 * std::fabs(s) : 0.6 + 0.3 * std::fabs(c)));
-        cairo_fill(cr);
-      }
-      // group marks
-      const Rgb glow = group == 1 ? kRed : group == 3 ? kAmber : group == 7 ? kCyan : group == 4 ? kGreen : kWhite;
-      cairo_arc(cr, bx, by - h / 2 - 10, 6 + 2 * std::sin(a * 2), 0, 2 * M_PI);
-      SetColor(cr, glow);
-      cairo_fill(cr);
-      if (group == 1 || group == 3) {
-        cairo_set_line_width(cr, 5);
-        SetColor(cr, Scale(body, 0.5));
-        cairo_move_to(cr, bx, by);
-        cairo_line_to(cr, bx + 60 * c, by - 20 - 10 * s);
-        cairo_stroke(cr);
-      }
-    }
-    cairo_restore(cr);
-  }
-}
-
 }  // namespace
 
 bool DrawStation(const BitmapSpec& spec, Canvas& cv) {
@@ -195,14 +266,14 @@ bool DrawStation(const BitmapSpec& spec, Canvas& cv) {
   }
   if (StartsWith(p, "gfx/station/comps/10_")) {
     const std::string_view n = p.substr(21);
-    Turntable(cv, 10, 0, n[0] - '0', n[2] - '0', spec.frames);
+    DrawTurntable(cv, 10, 0, n[0] - '0', n[2] - '0', spec.frames);
     return true;
   }
   if (StartsWith(p, "gfx/station/comps/")) {
     const std::string_view n = p.substr(18);
     const int g = NumberAfter(n, "");
     const int m = NumberAfter(n.substr(n.find('_') + 1), "");
-    Turntable(cv, g, m, 0, 0, spec.frames);
+    DrawTurntable(cv, g, m, 0, 0, spec.frames);
     return true;
   }
   const std::string_view n = p.substr(19);  // after a_misc/

@@ -1,0 +1,114 @@
+// The project's smoke test: the first voyage of a new captain, from the
+// menu to a point in space, by clicks alone through the headless game.
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <sstream>
+#include <string>
+
+#include <nlohmann/json.hpp>
+
+namespace {
+
+namespace fs = std::filesystem;
+using nlohmann::json;
+
+class FirstVoyage : public ::testing::Test {
+ protected:
+  void SetUp() override {
+    dir = fs::temp_directory_path() / ("lanefarer_first_voyage_" + std::to_string(::getpid()));
+    fs::remove_all(dir);
+    fs::create_directories(dir);
+    fs::copy_file(fs::path(LANEFARER_SCENARIOS) / "first_voyage.txt", dir / "first_voyage.txt");
+  }
+  void TearDown() override { fs::remove_all(dir); }
+
+  int Run(const std::string& seed) {
+    const char* data = std::getenv("LANEFARER_TEST_DATA");
+    const std::string cmd = "cd '" + dir.string() + "' && '" LANEFARER_BINARY "' --headless --seed " + seed +
+                            " --data '" + std::string(data ? data : "/nonexistent-lanefarer-data") +
+                            "' --save-dir '" + (dir / "save").string() +
+                            "' --script first_voyage.txt > out.txt 2> err.txt";
+    const int raw = std::system(cmd.c_str());
+    return WIFEXITED(raw) ? WEXITSTATUS(raw) : -1;
+  }
+  json Dump(const std::string& name) const {
+    std::ifstream f(dir / name);
+    EXPECT_TRUE(f) << name;
+    return f ? json::parse(f) : json::object();
+  }
+  std::string Err() const {
+    std::ifstream f(dir / "err.txt");
+    std::stringstream s;
+    s << f.rdbuf();
+    return s.str();
+  }
+
+  fs::path dir;
+};
+
+// The one post that holds somebody, 0 if none or several.
+int OnlyFilledPost(const json& state) {
+  int found = 0;
+  for (int post = 1; post <= 6; ++post) {
+    if (state["CrewPost"][post]["Person"] == 0) continue;
+    if (found != 0) return 0;
+    found = post;
+  }
+  return found;
+}
+
+TEST_F(FirstVoyage, ANewCaptainBuysAShipHiresAnOfficerAndFlies) {
+  ASSERT_EQ(Run("5"), 0) << Err();
+
+  const json welcome = Dump("welcome.json");
+  EXPECT_EQ(welcome["TermPrompt"], 0);
+  EXPECT_EQ(welcome["ServiceMenuOpen"], -1);
+  EXPECT_EQ(welcome["HullRace"], 0);
+
+  EXPECT_EQ(Dump("dealer.json")["StatusSlot"][12]["Value"], 4);
+
+  const json bought = Dump("bought.json");
+  EXPECT_EQ(bought["HullRace"], 1);
+  EXPECT_EQ(bought["HullClass"], 1);
+  EXPECT_EQ(bought["HardpointCount"], 8);
+  EXPECT_EQ(bought["FittedComp"][1], json::parse("[0, 4, 1]"));
+  EXPECT_EQ(bought["FittedComp"][2], json::parse("[0, 5, 1]"));
+  EXPECT_EQ(bought["Cash"], 50000.0 - 20000 - 5000 - 2000);
+  EXPECT_EQ(bought["FreeMass"], 1000 - 200 - 400);
+
+  const json lounge = Dump("lounge.json");
+  EXPECT_EQ(lounge["StatusSlot"][12]["Value"], 2);
+  const json hired = Dump("hired.json");
+  const int post = OnlyFilledPost(hired);
+  ASSERT_NE(post, 0);
+  const int person = hired["CrewPost"][post]["Person"];
+  EXPECT_EQ(hired["Character"][person]["Post"], post);
+  EXPECT_EQ(hired["CrewPost"][post]["Health"], 90.0);
+  EXPECT_EQ(hired["Cash"], bought["Cash"].get<double>() - 500 * post);
+
+  const json departed = Dump("departed.json");
+  EXPECT_EQ(departed["StationActive"], 0);
+  EXPECT_EQ(departed["BridgeActive"], -1);
+  EXPECT_EQ(departed["OrbitState"], 3);
+  EXPECT_EQ(departed["CrewPost"][post]["Person"], person);
+
+  EXPECT_EQ(Dump("left_orbit.json")["OrbitState"], 1);
+
+  const json course = Dump("course.json");
+  EXPECT_NE(course["DestX"], departed["ShipX"]);
+  EXPECT_EQ(course["PropulsionSetting"], 198.0);
+
+  const json arrived = Dump("arrived.json");
+  const double x = arrived["ShipX"], y = arrived["ShipY"];
+  const double dx = course["DestX"], dy = course["DestY"];
+  EXPECT_LT(std::hypot(x - dx, y - dy), 6) << "the ship stops at the clicked point";
+  EXPECT_GT(std::hypot(x - departed["ShipX"].get<double>(), y - departed["ShipY"].get<double>()), 50);
+  EXPECT_EQ(arrived["ShipStepX"], 0.0);
+  EXPECT_EQ(arrived["ShipStepY"], 0.0);
+}
+
+}  // namespace
