@@ -9,7 +9,7 @@
 #include "station/station_common.h"
 #include "station/station_procedures.h"
 #include "station/dealer_rules.h"
-#include "station/station_text.h"
+#include "station/station_lines.h"
 #include "universe/catalogue.h"
 
 namespace lf {

@@ -5,7 +5,7 @@
 #include "station/station_common.h"
 #include "station/station_procedures.h"
 #include "station/lounge.h"
-#include "station/station_text.h"
+#include "station/station_lines.h"
 
 namespace lf {
 

@@ -149,6 +149,7 @@ void a_StationLoopFrame() {
 }
 
 void a_CheckStationMouseDown() {
+  ReadCursor();
   switch (StationPage()) {
     case 1: a_CheckMouseDown1(); break;
     case 2: a_CheckMouseDown2(); break;

@@ -1,46 +1,29 @@
-// Text on the station's screens: the 8x8 letters of ocr.bmp, which type
-// themselves out from PromptFade, and the 12x14 letters of the large font.
-// Lines are written in pieces, so that no frame builds a string.
+// The station's two fonts: the terminal's 8x8 glyphs of ocr.bmp, whose
+// letters fade in by PromptFade, and the large 12x14 font.
 #pragma once
 
-#include <array>
 #include <string_view>
 
 namespace lf {
 
-// Font rows of ocr.bmp added to the fade row: plain, bright (under the
-// cursor), chosen, greyed.
-inline constexpr int kPlainRow = 0, kBrightRow = 32, kChosenRow = 64, kGreyRow = 72;
+// Letter advance of the terminal font, and the rows of ocr.bmp.
+inline constexpr int kOcrAdvance = 6;
+inline constexpr int kOcrLitRows = 32;  // the bright rows, 32 pixels lower
+inline constexpr int kImpAdvance = 12;
+inline constexpr int kImpLitRow = 14;   // the large font's lit row
 
-// A number as the game shows it, Int() of the value, in a buffer of its own.
-struct NumberText {
-  explicit NumberText(double value);
-  std::string_view View() const { return {Chars.data(), Length}; }
-  std::array<char, 32> Chars{};
-  std::size_t Length = 0;
-};
+// Letter n (from 1) of `text` at x + 6n, y, shown once PromptFade[fadeLine][n]
+// is above 1, from the fade row (state - 1) x 8 to the nearest pixel, plus
+// `rowOffset`. A fade line outside the table shows nothing.
+void DrawOcrText(int x, int y, std::string_view text, int fadeLine, int rowOffset = 0);
+// The same, right-aligned so that its last letter stands at `right`.
+void DrawOcrTextRight(int right, int y, std::string_view text, int fadeLine, int rowOffset = 0);
+// Centred on `centre`.
+void DrawOcrTextCentred(int centre, int y, std::string_view text, int fadeLine, int rowOffset = 0);
 
-// One line of 8x8 letters: letter k (from 1) at x + 6k, in fade state
-// PromptFade[fadeLine][k] (fade line 0: fully shown). A letter shows once
-// its state is above 1, from the font's row (state - 1) x 8 + rowOffset.
-class FadeLine {
- public:
-  FadeLine(int x, int y, int fadeLine, int rowOffset) : x_(x), y_(y), line_(fadeLine), row_(rowOffset) {}
-  FadeLine& operator<<(std::string_view text);
-  FadeLine& operator<<(const NumberText& number) { return *this << number.View(); }
-
- private:
-  int x_, y_, line_, row_;
-  int letters_ = 0;
-};
-
-// A whole line of 8x8 letters, and one whose last letter stands at x = right.
-void DrawFadeText(int x, int y, std::string_view text, int fadeLine, int rowOffset);
-void DrawFadeTextRight(int right, int y, std::string_view text, int fadeLine, int rowOffset);
-
-// Large letters, letter i (from 1) at x + 12i; right-aligned so that the
-// last letter stands at x = right.
-void DrawLargeText(int x, int y, std::string_view text);
-void DrawLargeTextRight(int right, int y, std::string_view text);
+// Letter n (from 1) of `text` in the large font at x + 12n, y, from `row`.
+void DrawImpText(int x, int y, std::string_view text, int row = 0);
+// The large font right-aligned: the last letter's left edge at `right`.
+void DrawImpTextRight(int right, int y, std::string_view text, int row = 0);
 
 }  // namespace lf

@@ -6,7 +6,7 @@
 #include <map>
 #include <vector>
 
-#include "station_fixture.h"
+#include "screens_fixture.h"
 
 namespace lf::test {
 namespace {

@@ -6,7 +6,7 @@
 #include <vector>
 
 #include "bridge/bridge_helpers.h"
-#include "station_fixture.h"
+#include "screens_fixture.h"
 
 namespace lf::test {
 namespace {

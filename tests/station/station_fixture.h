@@ -1,80 +1,106 @@
-// Test support for the station's screens: the catalogue, a quadrant of our
-// own making with the ship docked at body 1, a few persons, and presses
-// that go through the screen handlers.
+// Test support for the station: the ship docked at planet 2 of a small
+// quadrant (planet 1 lies far away), a Human station of a Terran world with
+// a stocked exchange, a crewed ship with a hull, a generator and an engine,
+// and presses that go through the station's mouse routing.
 #pragma once
 
+#include <string>
+#include <vector>
+
 #include "shell/game_state.h"
-#include "station/dealer.h"
+#include "shell/prompts.h"
+#include "shell/screens.h"
 #include "station/station_common.h"
 #include "station/station_procedures.h"
-#include "station/lounge.h"
 #include "support/shell_fixture.h"
-#include "universe/catalogue.h"
-#include "universe/new_game.h"
 
 namespace lf::test {
 
-class StationScreenTest : public ShellTest {
+class StationTest : public ShellTest {
  protected:
   void SetUp() override {
     ShellTest::SetUp();
-    DefineShipSpecs();
+    ResetScreens();
     G.CurrentQuadrant = 1;
     G.PlanetCount = 3;
-    G.ShipX = G.ShipY = 1000;
-    Body(1, 1000, 1000, 1, 1);  // the station, Human
-    Body(2, 3000, 1000, 1, 0);  // a Human world without a station
-    Body(3, 3000, 3000, 2, 0);  // a Hagel world
-    for (int c = 1; c <= 144; ++c) {
-      G.Character[c].Name = "PERSON " + std::to_string(c);
-      G.Character[c].Post = static_cast<std::int16_t>((c - 1) % 24 / 4 + 1);
-      G.Character[c].Skill = 3;
-      G.Character[c].Salary = 300;
-    }
-    G.StationActive = True;
+    G.Planet[1] = Station(500, 500, "FARAWAY", 1);
+    G.Planet[2] = Station(1000, 1000, "KALLISTO", 1);
+    G.Planet[3] = Station(4000, 4000, "TORTUGA", 7);
+    G.ShipX = 1010;
+    G.ShipY = 1000;
+    for (int r = 1; r <= 7; ++r) G.RaceRelation[r] = 50;
     G.Cash = 50000;
+    G.HasLander = True;
+    G.CrewPost[1].Person = 11;
+    G.HullRace = 1;
+    G.HardpointCount = 4;
+    G.FittedComp[1][1] = 4;  // generator
+    G.FittedComp[2][1] = 5;  // engine
+    G.FreeCargo = 100;
+    for (int i = 1; i <= 14; ++i) {
+      G.StationStock[2].Quantity[i] = 500;
+      G.StationStock[2].StationPrice[i] = 20;
+    }
+    G.StatusSlot[DockedSlot].Active = True;
+    G.StationActive = True;
+    StationPage() = 1;
+    a_DetermineStationComps();
+  }
+  void TearDown() override {
+    ResetScreens();
+    ShellTest::TearDown();
   }
 
-  static void Body(int i, double x, double y, int race, double station) {
-    G.Planet[i].X = x;
-    G.Planet[i].Y = y;
-    G.Planet[i].Width = 50;
-    G.Planet[i].Race = static_cast<std::int16_t>(race);
-    G.Planet[i].HasStation = station;
+  static PlanetRecord Station(double x, double y, const std::string& name, int race) {
+    PlanetRecord p;
+    p.X = x;
+    p.Y = y;
+    p.Name = name;
+    p.Race = static_cast<std::int16_t>(race);
+    p.Type = 4;
+    p.HasStation = 1;
+    p.Width = 60;
+    return p;
+  }
+  // Moves the ship onto the pirate station.
+  static void DockAtPirates() {
+    G.ShipX = 4000;
+    G.ShipY = 4000;
+    a_DetermineStationComps();
   }
 
-  // The docked station's race (7 makes it a pirate station) and quadrant.
-  static void DockAt(int race, int quadrant) {
-    G.Planet[1].Race = static_cast<std::int16_t>(race);
-    G.CurrentQuadrant = static_cast<std::int16_t>(quadrant);
-  }
-
-  // A hull of the catalogue, as bought, with nothing fitted.
-  static void OwnHull(int race, int hullClass) {
-    const HullRecord& h = G.Hull[race][hullClass];
-    G.HullRace = static_cast<std::int16_t>(race);
-    G.HullClass = static_cast<std::int16_t>(hullClass);
-    G.HullPoints = G.HullPointsMax = h.HullPoints;
-    G.HardpointCount = h.Hardpoints;
-    G.FreeMass = h.CarryAmount;
-    G.FreeCargo = h.CargoHold;
-  }
-
-  // A component in a slot at full health, its weight taken from FreeMass.
-  static void Fit(int slot, int group, int model) {
-    G.FittedComp[slot][1] = static_cast<std::int16_t>(group);
-    G.FittedComp[slot][2] = static_cast<std::int16_t>(model);
-    G.FittedHealth[slot] = ComponentFullHealth(group, model);
-    Assign(G.FreeMass, G.FreeMass - ComponentWeight(group, model));
-  }
-
-  void PressDealer(int x, int y) {
+  // A press at (x, y) as the mouse dispatcher hands it over; true when the
+  // press left the station loop (the departure).
+  bool Press(int x, int y) {
     PointAt(x, y);
-    a_CheckMouseDown4();
+    try {
+      a_CheckStationMouseDown();
+    } catch (const ScreenChange&) {
+      return true;
+    }
+    return false;
   }
-  void PressLounge(int x, int y) {
-    PointAt(x, y);
-    a_CheckMouseDown2();
+  bool PressOk() { return Press(620, 150); }
+  bool PressExit() { return Press(150, 420); }
+  bool PressYes() { return Press(620, 160); }
+  bool PressNo() { return Press(620, 115); }
+
+  // Starts the arrival chain as docking leaves it: the arrival text typing.
+  static void ArrivalTyping() {
+    G.TermPrompt = 501;
+    G.ServiceMenuOpen = False;
+    G.MayDepart = True;
+  }
+
+  static std::vector<std::string> Lines() {
+    std::vector<std::string> out;
+    for (int i = 1; i <= G.TermLineCount; ++i) out.push_back(G.TermLine[i]);
+    return out;
+  }
+  static bool Sounded(int s, int c) {
+    for (const MediaCall& m : MediaLog())
+      if (m.kind == MediaCall::Kind::Sound && m.number == s && m.channel == c) return true;
+    return false;
   }
 };
 
