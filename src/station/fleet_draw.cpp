@@ -7,7 +7,7 @@
 #include "station/fleet_office.h"
 #include "station/office_layout.h"
 #include "station/station_procedures.h"
-#include "station/station_text.h"
+#include "station/station_lines.h"
 
 namespace lf {
 

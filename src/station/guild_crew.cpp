@@ -7,7 +7,7 @@
 #include "station/data/station_data.h"
 #include "station/office_layout.h"
 #include "station/station_procedures.h"
-#include "station/station_text.h"
+#include "station/station_lines.h"
 #include "universe/catalogue.h"
 #include "universe/characters.h"
 

@@ -11,7 +11,7 @@
 #include "station/office_layout.h"
 #include "station/station_common.h"
 #include "station/station_procedures.h"
-#include "station/station_text.h"
+#include "station/station_lines.h"
 
 namespace lf {
 

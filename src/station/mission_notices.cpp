@@ -1,6 +1,6 @@
 // The one-line notices of the mission boards and the guilds' doors.
 #include "station/station_procedures.h"
-#include "station/station_text.h"
+#include "station/station_lines.h"
 
 namespace lf {
 

@@ -4,7 +4,7 @@
 #include "display/screen.h"
 #include "shell/game_state.h"
 #include "station/data/office_data.h"
-#include "station/station_text.h"
+#include "station/station_lines.h"
 
 namespace lf {
 
