@@ -11,6 +11,7 @@
 #include "missions/missions_state.h"
 #include "shell/shell_state.h"
 #include "station/dealer_state.h"
+#include "station/fleet_state.h"
 #include "station/lounge_state.h"
 #include "station/station_state.h"
 #include "universe/universe_state.h"
@@ -25,6 +26,7 @@ struct Game : ShellState,
               StationState,
               DealerState,
               LoungeState,
+              FleetState,
               MissionsState,
               EventsState,
               CombatState {};
@@ -40,6 +42,7 @@ void VisitFields(V& v, Game& g) {
   VisitFields(v, static_cast<StationState&>(g));
   VisitFields(v, static_cast<DealerState&>(g));
   VisitFields(v, static_cast<LoungeState&>(g));
+  VisitFields(v, static_cast<FleetState&>(g));
   VisitFields(v, static_cast<MissionsState&>(g));
   VisitFields(v, static_cast<EventsState&>(g));
   VisitFields(v, static_cast<CombatState&>(g));

@@ -7,6 +7,7 @@
 #include "shell/game_state.h"
 #include "station/data/station_data.h"
 #include "station/dealer.h"
+#include "station/guilds.h"
 #include "station/station_common.h"
 #include "station/station_procedures.h"
 #include "station/lounge.h"
@@ -81,8 +82,11 @@ void a_DrawCrewInfo() {
 }
 
 void a_DrawSpecialEquip(int board) {
-  // The guilds' offers belong to their halls; the lounge shows the pirates'.
-  if (board != 5) return;
+  // The guilds' offers (2..4) are drawn by their halls; 5 is the pirates'.
+  if (board != 5) {
+    DrawGuildEquipment(board - 1);
+    return;
+  }
   ReadCursor();
   for (int n = 1; n <= 6; ++n)
     DrawFadeText(170, 270 + 15 * n, data::kPirateOfferText[static_cast<std::size_t>(n - 1)], n, kPlainRow);
