@@ -358,6 +358,36 @@ void OrbitSession(CoverageDriver& d) {
   }
 }
 
+// A hail of a ship of every class: the doors, the static and the hail
+// pictures.
+void HailSession(CoverageDriver& d) {
+  d.FlyFree();
+  ASSERT_EQ(TopScreen(), Screen::Bridge);
+  for (int race = 1; race <= 10; ++race) G.TranslatorOwned[race] = True;
+  if (G.OtherShipCount < 1) G.OtherShipCount = 1;
+  d.OpenPage(2);
+  int hails = 0;
+  for (int shipClass = 1; shipClass <= 19; ++shipClass) {
+    OtherShipRecord& other = G.OtherShip[1];
+    other.ShipClass = static_cast<std::int16_t>(shipClass);
+    other.X = G.ShipX + 60;
+    other.Y = G.ShipY + 20;
+    other.StepX = other.StepY = 0;
+    other.TargetX = static_cast<std::int16_t>(other.X);
+    other.TargetY = static_cast<std::int16_t>(other.Y);
+    if (G.BridgeButton[2][1].State != 1) d.PressButton(2, 1);  // HAIL on
+    d.Click(static_cast<int>(300 + other.X - Int(G.ViewX) - 14 + 12), static_cast<int>(125 + other.Y - G.ViewY - 8 + 7));
+    hails += G.HailedShip == 1;
+    d.Frames(150);
+    if (shipClass == 1) d.Shot("hail");
+    d.AnswerPrompts();
+    G.HailedShip = 0;
+    G.OrbitState = 0;
+    d.Frames(60);
+  }
+  EXPECT_GT(hails, 0) << "no hail was opened: the session covers nothing";
+}
+
 // The menu over the bridge, and back.
 void MenuOverBridgeSession(CoverageDriver& d) {
   d.FlyFree();
@@ -383,6 +413,7 @@ const std::vector<Session>& Sessions() {
       {"BridgePages", BridgePagesSession},
       {"Flight", FlightSession},
       {"Orbit", OrbitSession},
+      {"Hail", HailSession},
       {"MenuOverBridge", MenuOverBridgeSession},
   };
   return sessions;
