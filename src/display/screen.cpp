@@ -107,9 +107,12 @@ bool BltFast(int x, int y, const Bitmap& bitmap, bool keyed) {
   if (left < 0 || top < 0 || left + w > src->w || top + h > src->h) {
     // The picture is smaller than what the game cuts from it: a damaged or
     // foreign file. Skipped, and named once.
-    if (!ReportWouldBeSilent(PictureFile(bitmap)))
-      ReportMissing(PictureFile(bitmap), "smaller (" + std::to_string(src->w) + "x" + std::to_string(src->h) +
-                                       ") than a rectangle drawn from it");
+    if (Verbose()) {
+      const std::string& file = PictureFile(bitmap);
+      if (!file.empty() && !ReportWouldBeSilent(file))
+        ReportMissing(file, "smaller (" + std::to_string(src->w) + "x" + std::to_string(src->h) +
+                                ") than a rectangle drawn from it");
+    }
     return false;
   }
   if (x < 0 || y < 0 || x + w > kScreenWidth || y + h > kScreenHeight) return false;
