@@ -63,10 +63,14 @@ void PanelBack(Canvas& cv, const std::string& title, uint32_t seed) {
     cairo_line_to(cr, x, y + sy * 8);
   }
   cairo_stroke(cr);
-  // The caption stands at the foot, except on the power panel, whose
-  // generator lines fill the foot.
-  const double captionY = title == "ENERGY" ? 12 : 126;
-  Text(cr, title, 65, captionY, 6, Scale(kCyan, 0.45), Align::Center, true, true);
+  // The caption stands at the foot, except where the panel's own lines
+  // fill it: the power panel's generator lines (it goes to the top, where
+  // the panel is free), the crew's salary line and the research list's
+  // skill line (no caption: the lists run from the top).
+  if (title != "CREW" && title != "RESEARCH") {
+    const double captionY = title == "ENERGY" ? 12 : 126;
+    Text(cr, title, 65, captionY, 6, Scale(kCyan, 0.45), Align::Center, true, true);
+  }
   (void)seed;
 }
 
