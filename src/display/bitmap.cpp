@@ -4,6 +4,8 @@
 
 #include <utility>
 
+#include "display/picture_files.h"
+
 namespace lf {
 
 Bitmap::~Bitmap() { Reset(); }
@@ -28,7 +30,10 @@ int Bitmap::Width() const { return surface_ ? surface_->w : 0; }
 int Bitmap::Height() const { return surface_ ? surface_->h : 0; }
 
 void Bitmap::Reset() {
-  if (surface_) SDL_FreeSurface(surface_);
+  if (surface_) {
+    ForgetPictureFile(surface_);
+    SDL_FreeSurface(surface_);
+  }
   surface_ = nullptr;
 }
 

@@ -2,6 +2,8 @@
 
 #include <set>
 
+#include "universe/data/universe_data.h"
+
 namespace lf {
 namespace {
 
@@ -16,92 +18,6 @@ void AddRun(BitmapSet& s, std::string_view stem, int first, int last, std::strin
 }
 
 }  // namespace
-
-// Button sheets: the button table of the officer pages, then the blank
-// plates, which each load their own copy of "\gfx\bb.bmp".
-const std::array<ButtonSheet, 51> kButtonSheets = {{
-    {1, 1, R"(\gfx\nav\01.bmp)"},
-    {1, 2, R"(\gfx\nav\02.bmp)"},
-    {1, 3, R"(\gfx\nav\03.bmp)"},
-    {1, 4, R"(\gfx\nav\04.bmp)"},
-    {1, 5, R"(\gfx\nav\05.bmp)"},
-    {1, 6, R"(\gfx\nav\06.bmp)"},
-    {1, 7, R"(\gfx\nav\07.bmp)"},
-    {1, 8, R"(\gfx\nav\08.bmp)"},
-    {1, 9, R"(\gfx\nav\09.bmp)"},
-    {2, 1, R"(\gfx\comm\01.bmp)"},
-    {2, 2, R"(\gfx\comm\02.bmp)"},
-    {2, 3, R"(\gfx\comm\03.bmp)"},
-    {2, 4, R"(\gfx\comm\04.bmp)"},
-    {2, 5, R"(\gfx\comm\05.bmp)"},
-    {2, 6, R"(\gfx\comm\06.bmp)"},
-    {2, 8, R"(\gfx\comm\08.bmp)"},
-    {3, 1, R"(\gfx\tac\01.bmp)"},
-    {3, 2, R"(\gfx\tac\02.bmp)"},
-    {3, 3, R"(\gfx\tac\03.bmp)"},
-    {3, 4, R"(\gfx\tac\04.bmp)"},
-    {3, 8, R"(\gfx\tac\06.bmp)"},
-    {4, 1, R"(\gfx\med\01.bmp)"},
-    {4, 2, R"(\gfx\med\02.bmp)"},
-    {4, 4, R"(\gfx\med\04.bmp)"},
-    {5, 1, R"(\gfx\sci\01.bmp)"},
-    {5, 2, R"(\gfx\sci\02.bmp)"},
-    {5, 3, R"(\gfx\sci\03.bmp)"},
-    {5, 4, R"(\gfx\sci\04.bmp)"},
-    {5, 5, R"(\gfx\sci\05.bmp)"},
-    {5, 6, R"(\gfx\sci\06.bmp)"},
-    {5, 7, R"(\gfx\sci\07.bmp)"},
-    {5, 8, R"(\gfx\sci\08.bmp)"},
-    {6, 1, R"(\gfx\eng\01.bmp)"},
-    {6, 2, R"(\gfx\eng\02.bmp)"},
-    {6, 3, R"(\gfx\eng\03.bmp)"},
-    {6, 4, R"(\gfx\eng\04.bmp)"},
-    {1, 10, R"(\gfx\bb.bmp)"},
-    {2, 7, R"(\gfx\bb.bmp)"},
-    {2, 9, R"(\gfx\bb.bmp)"},
-    {3, 5, R"(\gfx\bb.bmp)"},
-    {3, 9, R"(\gfx\bb.bmp)"},
-    {3, 10, R"(\gfx\bb.bmp)"},
-    {4, 3, R"(\gfx\bb.bmp)"},
-    {4, 5, R"(\gfx\bb.bmp)"},
-    {4, 6, R"(\gfx\bb.bmp)"},
-    {4, 7, R"(\gfx\bb.bmp)"},
-    {4, 8, R"(\gfx\bb.bmp)"},
-    {6, 5, R"(\gfx\bb.bmp)"},
-    {6, 6, R"(\gfx\bb.bmp)"},
-    {6, 7, R"(\gfx\bb.bmp)"},
-    {6, 8, R"(\gfx\bb.bmp)"},
-}};
-
-const std::array<std::string_view, 27> kPlanetPictureFile = {
-    "",
-    "barren_vsmall",   // 1
-    "barren_small",    // 2
-    "desert_small",    // 3
-    "desert_vsmall",   // 4
-    "gasgiant",        // 5
-    "genesis_medium",  // 6
-    "genesis_small",   // 7
-    "ocean_medium",    // 8
-    "ocean_small",     // 9
-    "radiated_medium", // 10
-    "radiated_small",  // 11
-    "radiated_vsmall", // 12
-    "swamp_medium",    // 13
-    "swamp_small",     // 14
-    "tundra_large",    // 15
-    "terran_large",    // 16
-    "terran_medium",   // 17
-    "terran_small",    // 18
-    "toxic_medium",    // 19
-    "toxic_small",     // 20
-    "toxic_vsmall",    // 21
-    "tundra_medium",   // 22
-    "station_1",       // 23
-    "station_2",       // 24
-    "station_3",       // 25
-    "station_4",       // 26
-};
 
 const std::array<std::string_view, 19> kShipClassFile = {
     "",    "1_1", "1_2", "1_3", "1_4", "1_5", "2_1", "2_3", "2_5", "3_1",
@@ -230,8 +146,12 @@ BitmapSet BridgeSet(Gfx& g) {
   Add(s, R"(\gfx\ukn.bmp)", g.PlanetBitmap[0]);
   Add(s, R"(\gfx\uknfade.bmp)", g.PlanetBitmap[100]);
   for (int p = 1; p <= 26; ++p)
-    Add(s, std::string(R"(\gfx\planets\)") + std::string(kPlanetPictureFile[p]) + ".bmp", g.PlanetBitmap[p]);
-  for (const ButtonSheet& b : kButtonSheets) Add(s, std::string(b.File), g.ButtonPicture[b.Page][b.Button]);
+    Add(s, std::string(R"(\gfx\planets\)") + std::string(data::kPictures[static_cast<std::size_t>(p)].File),
+        g.PlanetBitmap[p]);
+  // The button sheets in the order of the button table; each blank plate
+  // loads its own copy of "\gfx\bb.bmp".
+  for (const data::ButtonRow& b : data::kButtonRows)
+    Add(s, std::string(b.Sheet), g.ButtonPicture[b.Page][b.Button]);
   return s;
 }
 

@@ -35,18 +35,6 @@ BitmapSet FightSetFixed(Gfx& g);
 // station and the fight draw it), the strip font and the progress bar.
 bool StaysThroughUnload(const Gfx& g, const Bitmap* handle);
 
-// The sheet of each button of the bridge pages, in the order of the button
-// table, then the blank plates.
-struct ButtonSheet {
-  int Page;
-  int Button;
-  std::string_view File;
-};
-extern const std::array<ButtonSheet, 51> kButtonSheets;
-
-// Body pictures 1..26 under "\gfx\planets\" (element 0 unused).
-extern const std::array<std::string_view, 27> kPlanetPictureFile;
-
 // Ship class pictures 1..18 under "\gfx\ships\" (element 0 unused).
 extern const std::array<std::string_view, 19> kShipClassFile;
 

@@ -6,6 +6,7 @@
 #include <set>
 
 #include "display/bitmap_catalog.h"
+#include "universe/data/universe_data.h"
 
 namespace lf {
 namespace {
@@ -35,21 +36,6 @@ constexpr std::array<std::string_view, 7> kStationScreenBack = {
 // Component models by group 1..7: beams, computers, launchers, generators,
 // engines, sensors, shields.
 constexpr std::array<int, 8> kModelsInGroup = {0, 11, 6, 11, 7, 8, 5, 10};
-
-// The defined hulls (race, hull class).
-struct RaceClass {
-  int Race, Class;
-};
-constexpr std::array<RaceClass, 19> kHulls = {{
-    {1, 1}, {1, 2}, {1, 3}, {1, 4}, {2, 1}, {2, 3}, {3, 1}, {3, 2}, {3, 4}, {4, 3},
-    {4, 4}, {5, 1}, {5, 2}, {5, 3}, {6, 2}, {6, 4}, {7, 1}, {7, 2}, {7, 5},
-}};
-
-// Race and hull class of the ship classes 1..19, whose hulls fight.
-constexpr std::array<RaceClass, 20> kShipClassHull = {{
-    {0, 0}, {1, 1}, {1, 2}, {1, 3}, {1, 4}, {7, 5}, {2, 1}, {2, 3}, {7, 5}, {3, 1},
-    {3, 2}, {3, 4}, {4, 3}, {4, 4}, {5, 1}, {5, 2}, {5, 3}, {6, 2}, {6, 4}, {7, 5},
-}};
 
 // The node numbers of story events 1..18 (nodes may skip a number).
 const std::array<std::vector<int>, 19>& EventNodes() {
@@ -106,7 +92,7 @@ std::vector<std::string> AllBitmapPaths() {
   for (int group = 1; group <= 7; ++group)
     for (int model = 1; model <= kModelsInGroup[group]; ++model)
       p.Add(R"(\gfx\station\comps\)" + N(group) + "_" + N(model) + ".bmp");
-  for (const RaceClass& h : kHulls)
+  for (const data::HullRow& h : data::kHullRows)
     p.Add(R"(\gfx\station\comps\10_)" + N(h.Race) + "_" + N(h.Class) + ".bmp");
 
   // Faces of the 144 characters and of the two heroes.
@@ -120,8 +106,8 @@ std::vector<std::string> AllBitmapPaths() {
     for (int node : EventNodes()[e]) p.Add(R"(\gfx\events\)" + N(e) + R"(\)" + N(node) + ".bmp");
 
   // The fight: the opponent's hull, the weapon lines' shots.
-  for (int c = 1; c <= 19; ++c)
-    p.Add(R"(\gfx\fight\oship\)" + N(kShipClassHull[c].Race) + "_" + N(kShipClassHull[c].Class) + ".bmp");
+  for (const data::ShipClassRow& c : data::kShipClassRows)
+    p.Add(R"(\gfx\fight\oship\)" + N(c.Race) + "_" + N(c.HullClass) + ".bmp");
   for (int m = 1; m <= kModelsInGroup[1]; ++m) p.Add(R"(\gfx\fight\wpns\l_)" + N(m) + ".bmp");
   for (int m = 1; m <= kModelsInGroup[3]; ++m) p.Add(R"(\gfx\fight\wpns\r_)" + N(m) + ".bmp");
   p.Add(R"(\gfx\fight\wpns\dragon.bmp)");

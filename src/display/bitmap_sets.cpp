@@ -27,6 +27,11 @@ void LoadKeptBitmaps() { Load(KeptSet(GFX)); }
 
 void LoadMainBitmaps() { Load(BridgeSet(GFX)); }
 
+void LoadMainBitmapsAtNewGame() {
+  for (const BitmapFile& f : BridgeSet(GFX))
+    if (f.Handle != &GFX.ProgressBarPicture && f.Handle != &GFX.Back2) *f.Handle = LoadBitmapIntoDXS(f.Path);
+}
+
 void UnloadMainBitmaps() {
   for (const BitmapFile& f : BridgeSet(GFX))
     if (!StaysThroughUnload(GFX, f.Handle)) f.Handle->Reset();

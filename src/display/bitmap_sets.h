@@ -15,6 +15,10 @@ void LoadMenuBitmaps();
 void LoadKeptBitmaps();
 // The bridge set (191 bitmaps) and its release.
 void LoadMainBitmaps();
+// The bridge set at a new game, after the kept set: the progress bar is in
+// hand already and the backdrop comes with the quadrant (RandomizeQuad), so
+// neither is loaded here and the new game's loads come to the bar's 360.
+void LoadMainBitmapsAtNewGame();
 void UnloadMainBitmaps();
 // The station set (21 bitmaps) and its release.
 void a_LoadStationBitmaps();

@@ -14,7 +14,10 @@
 #include <vector>
 
 #include "display/bitmap_sets.h"
+#include "display/bmp_header.h"
+#include "display/picture_files.h"
 #include "shell/game_state.h"
+#include "shell/data_file.h"
 #include "shell/host.h"
 #include "shell/paths.h"
 
@@ -56,7 +59,15 @@ void InicializeDirectDraw() {
 Bitmap LoadBitmapIntoDXS(std::string_view gamePath) {
   const std::string file = DataPath(gamePath);
   Bitmap result;
-  if (SDL_Surface* raw = SDL_LoadBMP(file.c_str())) {
+  // The header is looked at before SDL's reader sees the file: the reader
+  // allocates whatever size a header declares.
+  std::string why;
+  const auto bytes = ReadDataFile(file, kLargestPictureFile, &why);
+  if (!bytes) {
+    ReportMissing(file, why);
+  } else if (const auto fault = BmpHeaderFault(*bytes)) {
+    ReportMissing(file, *fault);
+  } else if (SDL_Surface* raw = SDL_LoadBMP_RW(SDL_RWFromConstMem(bytes->data(), static_cast<int>(bytes->size())), 1)) {
     SDL_Surface* converted = SDL_ConvertSurfaceFormat(raw, SDL_PIXELFORMAT_RGB565, 0);
     SDL_FreeSurface(raw);
     if (converted) {
@@ -64,16 +75,13 @@ Bitmap LoadBitmapIntoDXS(std::string_view gamePath) {
       // Keyed pictures are run-length coded by SDL on their first keyed
       // blit: transparent runs are skipped and opaque runs copied whole.
       SDL_SetSurfaceRLE(converted, 1);
+      NotePictureFile(converted, file);
       result = Bitmap::Adopt(converted);
     } else {
       ReportMissing(file, std::string("cannot convert: ") + SDL_GetError());
     }
   } else {
-    std::error_code ec;
-    if (!std::filesystem::exists(file, ec))
-      ReportMissing(file, "missing");
-    else
-      ReportMissing(file, std::string("unreadable: ") + SDL_GetError());
+    ReportMissing(file, std::string("unreadable: ") + SDL_GetError());
   }
   Assign(G.ProgressCount, G.ProgressCount + 1.0);
   if (G.ProgressMode != 0 && G.ProgressCount > 5) DrawProgressBar();
@@ -96,7 +104,17 @@ bool BltFast(int x, int y, const Bitmap& bitmap, bool keyed) {
   const long long w = static_cast<long long>(G.SrcRight) - left;
   const long long h = static_cast<long long>(G.SrcBottom) - top;
   if (w <= 0 || h <= 0) return false;
-  if (left < 0 || top < 0 || left + w > src->w || top + h > src->h) return false;
+  if (left < 0 || top < 0 || left + w > src->w || top + h > src->h) {
+    // The picture is smaller than what the game cuts from it: a damaged or
+    // foreign file. Skipped, and named once.
+    if (Verbose()) {
+      const std::string& file = PictureFile(bitmap);
+      if (!file.empty() && !ReportWouldBeSilent(file))
+        ReportMissing(file, "smaller (" + std::to_string(src->w) + "x" + std::to_string(src->h) +
+                                ") than a rectangle drawn from it");
+    }
+    return false;
+  }
   if (x < 0 || y < 0 || x + w > kScreenWidth || y + h > kScreenHeight) return false;
 
   // Most pictures are always drawn the same way, so the key is switched

@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "media/clip_decoder.h"
+#include "shell/data_file.h"
 #include "shell/paths.h"
 
 namespace lf {
@@ -17,6 +18,10 @@ bool HasClipPresenter() { return static_cast<bool>(g_presenter); }
 
 void PlayClipFile(const std::string& file) {
   if (!g_presenter) return;
+  if (!IsRegularFile(file)) {
+    ReportMissing(file, "missing or not a regular file");
+    return;
+  }
   ClipDecoder clip(file);
   if (!clip.Ok()) {
     ReportMissing(file, "missing or not a playable clip");

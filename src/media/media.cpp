@@ -4,6 +4,7 @@
 #include "media/media_backend.h"
 #include "media/music.h"
 #include "media/mute.h"
+#include "media/sound_bank.h"
 #include "media/sound_channels.h"
 #include "shell/game_state.h"
 #include "shell/paths.h"
@@ -39,6 +40,9 @@ void ClearMediaLog() { g_log.clear(); }
 
 void LoadSoundBank() {
   for (int i = 1; i <= 33; ++i) G.SoundFile[i] = std::to_string(i) + ".wav";
+  // Every sound is read here, once: a sound played later reads nothing.
+  if (!Muted())
+    for (int i = 1; i <= 33; ++i) BankedSoundOf(i);
 }
 
 void PlaySoundFx(int s, int c) {
@@ -46,7 +50,10 @@ void PlaySoundFx(int s, int c) {
   const int channel = TakeSoundChannel(c);
   if (channel < 0 || s < 1 || s > 33) return;  // out of the callers' bounds: the statement fails
   if (Muted()) return;
-  CurrentMediaBackend().PlaySound(channel, DataPath("sounds/" + G.SoundFile[s]));
+  if (SameSoundPlays(channel, s)) return;  // it plays on
+  const BankedSound& sound = BankedSoundOf(s);
+  MarkSoundStart(channel, s, sound.Frames);
+  CurrentMediaBackend().PlaySound(channel, sound.File, sound.Wave ? &*sound.Wave : nullptr);
 }
 
 void PlayTrack(int n) {

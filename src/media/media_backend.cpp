@@ -19,7 +19,8 @@ void RecordingBackend::Keep(Request r) {
   requests_.push_back(std::move(r));
 }
 
-void RecordingBackend::PlaySound(int channel, const std::string& file) {
+void RecordingBackend::PlaySound(int channel, const std::string& file, const WaveSound*) {
+  ++sound_count_;
   Keep({Request::Kind::Sound, channel, {file}});
 }
 void RecordingBackend::PlayMusic(const std::vector<std::string>& files) {

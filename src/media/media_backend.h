@@ -8,12 +8,15 @@
 
 namespace lf {
 
+struct WaveSound;
+
 class MediaBackend {
  public:
   virtual ~MediaBackend() = default;
-  // Plays the wave file once on channel 0..7, cutting what that channel
-  // played. The file is read anew at each call.
-  virtual void PlaySound(int channel, const std::string& file) = 0;
+  // Plays a sound of the bank once on channel 0..7, cutting what that
+  // channel played; `wave` is its samples as read once from `file`, or
+  // nullptr for a file that could not be used (the channel falls silent).
+  virtual void PlaySound(int channel, const std::string& file, const WaveSound* wave) = 0;
   // Plays the files one after the other and then stops, as a disc runs on
   // to its last track. Replaces whatever music played.
   virtual void PlayMusic(const std::vector<std::string>& files) = 0;
@@ -31,16 +34,23 @@ class RecordingBackend : public MediaBackend {
     bool operator==(const Request&) const = default;
   };
 
-  void PlaySound(int channel, const std::string& file) override;
+  void PlaySound(int channel, const std::string& file, const WaveSound* wave) override;
   void PlayMusic(const std::vector<std::string>& files) override;
   void StopMusic() override;
 
   const std::vector<Request>& Requests() const { return requests_; }
-  void Clear() { requests_.clear(); }
+  // Sounds asked of the backend since the start or the last Clear (the
+  // requests keep only the last ones).
+  long SoundCount() const { return sound_count_; }
+  void Clear() {
+    requests_.clear();
+    sound_count_ = 0;
+  }
 
  private:
   void Keep(Request r);
   std::vector<Request> requests_;
+  long sound_count_ = 0;
 };
 
 // The backend in use; a RecordingBackend until another is set. The caller

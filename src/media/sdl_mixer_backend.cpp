@@ -12,10 +12,12 @@
 #include <memory>
 #include <mutex>
 #include <thread>
+#include <unordered_map>
 
 #include "media/media_backend.h"
 #include "media/sound_channels.h"
 #include "media/wav_reader.h"
+#include "shell/data_file.h"
 #include "shell/paths.h"
 
 namespace lf {
@@ -62,7 +64,7 @@ class SdlMixerBackend : public MediaBackend {
     wake_.notify_all();
     if (worker_.joinable()) worker_.join();
     Mix_HaltChannel(-1);
-    for (auto& c : chunks_) c.reset();
+    converted_.clear();
     HaltMusic();
     Mix_CloseAudio();
     Mix_Quit();
@@ -70,19 +72,19 @@ class SdlMixerBackend : public MediaBackend {
     if (SDL_WasInit(0) == 0) SDL_Quit();  // the last of SDL: free what it keeps
   }
 
-  void PlaySound(int channel, const std::string& file) override {
+  void PlaySound(int channel, const std::string& file, const WaveSound* wave) override {
     if (channel < 0 || channel >= kSoundChannels) return;
     Mix_HaltChannel(channel);
-    chunks_[channel].reset();
-    const auto wave = LoadWAVIntoDSB(file);
     if (!wave) return;
-    auto chunk = Convert(*wave);
-    if (!chunk) {
-      ReportMissing(file, "cannot be converted for the sound device");
-      return;
+    // Each sound is converted for the device once and kept; several
+    // channels may play one converted sound at the same time.
+    auto it = converted_.find(file);
+    if (it == converted_.end()) {
+      auto chunk = Convert(*wave);
+      if (!chunk) ReportMissing(file, "cannot be converted for the sound device");
+      it = converted_.emplace(file, std::move(chunk)).first;
     }
-    Mix_PlayChannel(channel, &chunk->chunk, 0);
-    chunks_[channel] = std::move(chunk);
+    if (it->second) Mix_PlayChannel(channel, &it->second->chunk, 0);
   }
 
   void PlayMusic(const std::vector<std::string>& files) override {
@@ -146,7 +148,7 @@ class SdlMixerBackend : public MediaBackend {
       const std::string& file = run_[next_++];
       // Known by its bytes, not its name: a player's own track in another
       // format under the same name plays too.
-      SDL_RWops* source = SDL_RWFromFile(file.c_str(), "rb");
+      SDL_RWops* source = IsRegularFile(file) ? SDL_RWFromFile(file.c_str(), "rb") : nullptr;
       music_ = source ? Mix_LoadMUS_RW(source, 1) : nullptr;
       if (!music_) {
         ReportMissing(file, "not a playable track");
@@ -182,7 +184,7 @@ class SdlMixerBackend : public MediaBackend {
   int rate_ = 44100;
   Uint16 format_ = AUDIO_S16SYS;
   Uint8 channels_ = 2;
-  std::array<std::unique_ptr<Sound>, kSoundChannels> chunks_;
+  std::unordered_map<std::string, std::unique_ptr<Sound>> converted_;
 
   std::mutex mutex_;
   std::condition_variable wake_;

@@ -1,15 +1,16 @@
 #include "media/wav_reader.h"
 
 #include <cstring>
-#include <fstream>
-#include <iterator>
 
+#include "shell/data_file.h"
 #include "shell/paths.h"
 
 namespace lf {
 namespace {
 
 constexpr std::size_t kFormatRecord = 18;
+// No sound of the game comes near this; a larger file is not a sound of it.
+constexpr std::size_t kLargestSoundFile = 64u << 20;
 
 std::uint16_t U16(const std::uint8_t* p) { return static_cast<std::uint16_t>(p[0] | p[1] << 8); }
 std::uint32_t U32(const std::uint8_t* p) {
@@ -79,14 +80,13 @@ std::optional<WaveSound> ParseWave(const std::vector<std::uint8_t>& bytes, std::
 }
 
 std::optional<WaveSound> LoadWAVIntoDSB(const std::string& FName) {
-  std::ifstream in(FName, std::ios::binary);
-  if (!in) {
-    ReportMissing(FName, "cannot be read");
+  std::string why;
+  const auto bytes = ReadDataFile(FName, kLargestSoundFile, &why);
+  if (!bytes) {
+    ReportMissing(FName, why);
     return std::nullopt;
   }
-  const std::vector<std::uint8_t> bytes{std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>()};
-  std::string why;
-  auto sound = ParseWave(bytes, &why);
+  auto sound = ParseWave(*bytes, &why);
   if (!sound) ReportMissing(FName, why);
   return sound;
 }

@@ -31,8 +31,9 @@ struct WaveSound {
 // *why.
 std::optional<WaveSound> ParseWave(const std::vector<std::uint8_t>& bytes, std::string* why = nullptr);
 
-// Reads the file anew and parses it; a file that cannot be used is silence,
-// named on stderr with --verbose.
+// Reads the file and parses it; a file that cannot be used (missing, not a
+// regular file, unreadable, not a sound) is silence, named on stderr with
+// --verbose.
 std::optional<WaveSound> LoadWAVIntoDSB(const std::string& FName);
 
 }  // namespace lf

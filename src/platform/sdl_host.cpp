@@ -209,11 +209,23 @@ bool SdlHost::PresentClipFrame(const std::uint8_t* rgb, int w, int h) {
   }
   std::vector<InputEvent> events;
   SDL_Event e;
-  while (SDL_PollEvent(&e)) HandleEvent(e, events);
   bool goOn = true;
+  while (SDL_PollEvent(&e)) {
+    // Any key or mouse button ends the clip, not only those the game reads
+    // (the fullscreen keys toggle and let it run on); the press is not
+    // passed on to the game.
+    const bool fullscreenKey = e.type == SDL_KEYDOWN &&
+                               (e.key.keysym.sym == SDLK_F11 ||
+                                ((e.key.keysym.sym == SDLK_RETURN || e.key.keysym.sym == SDLK_KP_ENTER) &&
+                                 (e.key.keysym.mod & KMOD_ALT)));
+    if ((e.type == SDL_KEYDOWN && !e.key.repeat && !fullscreenKey) || e.type == SDL_MOUSEBUTTONDOWN) goOn = false;
+    HandleEvent(e, events);
+  }
   for (const InputEvent& ev : events) {
-    if (ev.kind == InputEvent::Kind::Close) heldBack_.push_back(ev);
-    goOn = false;  // a key, a click or a close ends the clip
+    if (ev.kind == InputEvent::Kind::Close) {
+      heldBack_.push_back(ev);
+      goOn = false;
+    }
   }
   return goOn;
 }

@@ -30,6 +30,8 @@ std::string DataPath(std::string_view gamePath) {
 void SetVerbose(bool on) { g_verbose = on; }
 bool Verbose() { return g_verbose; }
 
+bool ReportWouldBeSilent(const std::string& file) { return !g_verbose || g_reported.count(file) != 0; }
+
 void ReportMissing(const std::string& file, std::string_view why) {
   if (!g_verbose || !g_reported.insert(file).second) return;
   std::fprintf(stderr, "lanefarer: %s: %.*s\n", file.c_str(), static_cast<int>(why.size()), why.data());

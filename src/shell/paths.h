@@ -18,5 +18,8 @@ std::string DataPath(std::string_view gamePath);
 void SetVerbose(bool on);
 bool Verbose();
 void ReportMissing(const std::string& file, std::string_view why);
+// Whether a report on the file would say nothing (not --verbose, or the file
+// was named before): lets a caller in a frame skip building the reason.
+bool ReportWouldBeSilent(const std::string& file);
 
 }  // namespace lf

@@ -5,7 +5,6 @@
 namespace lf {
 
 // Saved games: filled by the saved position.
-void EraseInfo() {}
 void SaveGame() {}
 void LoadGame() {}
 

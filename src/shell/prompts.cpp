@@ -78,9 +78,13 @@ void SetMessage(const std::string& l1, const std::string& l2, const std::string&
   G.PromptLine[1] = l1;
   G.PromptLine[2] = l2;
   G.PromptLine[3] = l3;
-  G.PromptLine[4] = l4;
-  G.PromptLine[5] = l5;
-  G.PromptLine[6] = l6;
+  // A message names lines 1..3 only; a second page already waiting in lines
+  // 4..6 stays, unless this message brings a second page of its own.
+  if (!l4.empty() || !l5.empty() || !l6.empty()) {
+    G.PromptLine[4] = l4;
+    G.PromptLine[5] = l5;
+    G.PromptLine[6] = l6;
+  }
   G.MessagePending = True;
   G.QuestionPending = False;
   G.PromptAge = -1;

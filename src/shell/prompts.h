@@ -9,8 +9,9 @@ namespace lf {
 
 // A passing line: the three strings, PromptAge = 0, the speaker's portrait.
 void SetLine(const std::string& l1, const std::string& l2, const std::string& l3, double face);
-// A message held until OK (lines 4..6 a second page when line 4 begins "_").
-// face < 0 leaves PromptFace as it is.
+// A message held until OK (lines 4..6 a second page when line 4 begins "_";
+// given none, a second page already waiting stays). face < 0 leaves
+// PromptFace as it is.
 void SetMessage(const std::string& l1, const std::string& l2, const std::string& l3, double face = -1,
                 const std::string& l4 = {}, const std::string& l5 = {}, const std::string& l6 = {});
 // A yes-or-no question.

@@ -12,11 +12,10 @@
 #include "shell/saved_games.h"
 #include "shell/screens.h"
 #include "universe/new_game.h"
+#include "universe/stocks.h"
 
 namespace lf {
 namespace {
-
-constexpr double kStartBasePrice[15] = {0, 20, 5, 10, 50, 60, 25, 30, 60, 40, 50, 30, 80, 15, 30};
 
 void ClearSlotsAndStory() {
   for (int i = 1; i <= 20; ++i) G.StatusSlot[i].Active = False;
@@ -43,10 +42,6 @@ void GiveTranslators() {
   for (int i = 1; i <= 10; ++i) G.TranslatorOwned[i] = False;
   G.TranslatorOwned[1] = True;  // Human
   G.TranslatorOwned[7] = True;  // pirates
-}
-
-void SetPrices() {
-  for (int i = 1; i <= 14; ++i) G.BasePrice[i] = kStartBasePrice[i];
 }
 
 void SetMoneyAndPower() {
@@ -80,6 +75,8 @@ void ShareRepairEffort() {
 }
 
 void LoadInsteadOfOpening() {
+  // Used once: a later New shows the opening picture and starts docked.
+  G.LoadAfterStart = False;
   G.StatusSlot[DockedSlot].Active = False;
   G.ProgressCount = 0;
   G.ProgressMode = 1;
@@ -100,7 +97,7 @@ void StartNew() {
     G.Reputation = 0;
     G.TradeOpen = False;
   });
-  Skip(SetPrices);
+  Skip(SetBasePrices);
   G.ViewDetached = False;
   Skip(RandomGame);
   Skip(RandomizeCharacters);

@@ -1,4 +1,6 @@
 // The yield to the event queue at the end of every frame.
+#include <cstdint>
+#include <limits>
 #include <vector>
 
 #include "media/media.h"
@@ -65,7 +67,9 @@ void Yield() {
   const ClockTicks due = CountClockFrame();
   if (due.timer1) g_queue.push_back({QueuedItem::Kind::Timer1, {}});
   if (due.timer2) g_queue.push_back({QueuedItem::Kind::Timer2, {}});
-  G.Frame += 1;
+  // The frame count wraps to 0 rather than overflow (a restored state may
+  // hold any count).
+  G.Frame = G.Frame == std::numeric_limits<std::int64_t>::max() ? 0 : G.Frame + 1;
 
   // Each item leaves the queue before it runs: a screen change thrown by its
   // handler leaves the rest for the next yield. Nested yields (a blocking

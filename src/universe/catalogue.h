@@ -30,7 +30,8 @@ HullRecord ClassHull(int shipClass);
 
 // "HUMAN" .. "PIRATES" for 1..7, empty otherwise.
 std::string_view RaceName(int race);
-// Grades 1..5: "VERY POOR", "POOR", "AVERAGE", "GOOD", "EXCELLENT".
+// Skill grades 1..5 as the crew pages write them: "VERY POOR", "POOR",
+// "AVERAGE", "GOOD", "EXCELL.".
 std::string_view GradeName(int grade);
 
 // A cell of ComponentTable as text, and read as a number (an empty or

@@ -40,6 +40,7 @@ void RandomGame() {
   a_ChangeNewsText();
 
   G.SensorRange = 120;
+  G.SensorRingFrame = 0;
   G.SectorSize = 5000;
   G.BigDoorPos = 200;
   G.OrbitOfferOpen = True;
@@ -47,7 +48,7 @@ void RandomGame() {
   G.ProgressMode = 3;
 
   LoadKeptBitmaps();
-  LoadMainBitmaps();
+  LoadMainBitmapsAtNewGame();
   FillPictureTables();
   FillFaceAreas();
 

@@ -275,7 +275,6 @@ bool TryQuad(int quadrant) {
   for (int i = 1; i <= 50; ++i) G.Debris[i].Visible = False;
   G.ChartKind = static_cast<std::int16_t>(Int(Rnd() * 2) + 1);
   for (int i = 1; i <= decltype(G.OtherShip)::kHi; ++i) G.OtherShip[i].Free = True;
-  GFX.Back2 = LoadBitmapIntoDXS("\\gfx\\back2.bmp");
   LayNebulas();
   if (!ScatterDebrisAndPods()) return false;
   G.StarLaneKnown = False;
@@ -344,7 +343,10 @@ void RandomizePlans(int quadrant) {
 
 void RandomizeQuad(int quadrant) {
   for (int laying = 1; laying <= kMaxLayings; ++laying)
-    if (TryQuad(quadrant)) return;
+    if (TryQuad(quadrant)) break;
+  // The backdrop once, whatever number of layings it took: the loading bar
+  // counts it as one load.
+  GFX.Back2 = LoadBitmapIntoDXS("\\gfx\\back2.bmp");
 }
 
 }  // namespace lf

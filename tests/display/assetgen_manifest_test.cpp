@@ -81,6 +81,15 @@ TEST(AssetgenManifest, SizesTheGameDrawsFrom) {
   // star lane and unknown marker, frames up to 89 ten a row; the fade sheet reaches x 448
   EXPECT_GE(Entry("gfx/sl.bmp").height, 9 * 64);
   EXPECT_GE(Entry("gfx/uknfade.bmp").width, 448 + 64);
+  // the asteroid field steps through 36 frames of 200
+  EXPECT_GE(Entry("gfx/nebulas/ast_field.bmp").width, 36 * 200);
+  EXPECT_GE(Entry("gfx/nebulas/ast_field.bmp").height, 200);
+  // the research list's icons: four of 15x7 from x 0, 15, 30, 45
+  EXPECT_GE(Entry("gfx/misc/upgrade.bmp").width, 60);
+  EXPECT_GE(Entry("gfx/misc/upgrade.bmp").height, 7);
+  // treatment and quarantine buttons share one size
+  EXPECT_EQ(Entry("gfx/misc/treatment_up.bmp").width, Entry("gfx/misc/quarantine_up.bmp").width);
+  EXPECT_EQ(Entry("gfx/misc/treatment_down.bmp").height, Entry("gfx/misc/quarantine_down.bmp").height);
   // sensor rings: frames 0..8 of 2R
   EXPECT_GE(Entry("gfx/srange_huge.bmp").width, 9 * 240);
   EXPECT_GE(Entry("gfx/srange_vsmall.bmp").width, 9 * 60);
@@ -191,6 +200,61 @@ TEST(AssetgenFiles, EveryEntryLoadsAtItsSizeAndKeepsOpaqueOffTheKey) {
     SDL_FreeSurface(r565);
     SDL_FreeSurface(rgb);
     SDL_FreeSurface(s);
+  }
+}
+
+// The 16-bit pixels of a generated picture, or an empty surface.
+struct Pixels {
+  SDL_Surface* s = nullptr;
+  explicit Pixels(const fs::path& p) {
+    if (SDL_Surface* raw = SDL_LoadBMP(p.c_str())) {
+      s = SDL_ConvertSurfaceFormat(raw, SDL_PIXELFORMAT_RGB565, 0);
+      SDL_FreeSurface(raw);
+    }
+  }
+  ~Pixels() { SDL_FreeSurface(s); }
+  uint16_t At(int x, int y) const {
+    return reinterpret_cast<const uint16_t*>(static_cast<const char*>(s->pixels) + y * s->pitch)[x];
+  }
+};
+
+// The sector backdrop is drawn keyed over the nebulae and the asteroid
+// fields: most of it must be the key, or it hides them.
+TEST(AssetgenFiles, TheSectorBackdropLeavesMostOfItselfToTheKey) {
+  const char* data = std::getenv("LANEFARER_TEST_DATA");
+  if (!data) GTEST_SKIP() << "LANEFARER_TEST_DATA is not set (./dev test sets it)";
+  const Pixels back(fs::path(data) / "gfx/back2.bmp");
+  ASSERT_TRUE(back.s);
+  long key = 0;
+  for (int y = 0; y < back.s->h; ++y)
+    for (int x = 0; x < back.s->w; ++x) key += back.At(x, y) == 0;
+  EXPECT_GT(key * 100 / (long(back.s->w) * back.s->h), 80);
+}
+
+// A ring of 2R is drawn at the ship's anchor less (R - 13, R - 11) and the
+// ship, 35 square, at the anchor less (17, 10): the ring's middle must be
+// the ship's, (R - 12.5, R - 3.5) of each frame.
+TEST(AssetgenFiles, SensorRingsAreCentredOnTheShip) {
+  const char* data = std::getenv("LANEFARER_TEST_DATA");
+  if (!data) GTEST_SKIP() << "LANEFARER_TEST_DATA is not set (./dev test sets it)";
+  for (const char* name : {"huge", "large", "medium", "small", "vsmall"}) {
+    const Pixels ring(fs::path(data) / ("gfx/srange_" + std::string(name) + ".bmp"));
+    ASSERT_TRUE(ring.s) << name;
+    const int d = ring.s->h;
+    for (int frame = 0; frame < 9; ++frame) {
+      int left = d, right = -1, top = d, bottom = -1;
+      for (int y = 0; y < d; ++y)
+        for (int x = 0; x < d; ++x)
+          if (ring.At(frame * d + x, y) != 0) {
+            left = std::min(left, x);
+            right = std::max(right, x);
+            top = std::min(top, y);
+            bottom = std::max(bottom, y);
+          }
+      ASSERT_GE(right, 0) << name << " frame " << frame << " is empty";
+      EXPECT_NEAR((left + right + 1) / 2.0, d / 2.0 - 12.5, 1.5) << name << " frame " << frame;
+      EXPECT_NEAR((top + bottom + 1) / 2.0, d / 2.0 - 3.5, 1.5) << name << " frame " << frame;
+    }
   }
 }
 

@@ -9,10 +9,14 @@ namespace {
 
 class BitmapSetsTest : public DisplayTest {
  protected:
-  // Puts a 1x1 picture in the data folder for every file of the set.
+  // Puts a 1x1 picture in the data folder for every file of the set; the
+  // progress display's two pictures at the size it draws them.
   void Provide(const BitmapSet& set) {
-    for (const BitmapFile& f : set)
-      if (!std::filesystem::exists(DataPath(f.Path))) WriteSolid(f.Path, 1, 1, 0x808080);
+    for (const BitmapFile& f : set) {
+      if (std::filesystem::exists(DataPath(f.Path))) continue;
+      const bool loading = f.Path.rfind(R"(\gfx\loading\)", 0) == 0;
+      WriteSolid(f.Path, loading ? 640 : 1, loading ? 480 : 1, 0x808080);
+    }
   }
   // Loads with verbose reports captured: any file outside what was
   // provided shows up as a report.

@@ -4,6 +4,9 @@
 
 #include <gtest/gtest.h>
 
+#include <cstdint>
+#include <limits>
+
 #include "shell/event_queue.h"
 #include "loop_fixture.h"
 
@@ -35,6 +38,29 @@ TEST_F(Clocks, TickAfterEverySixthAndSixtiethFrameWhileRunning) {
   StartTimer1();  // starting a running clock does not restart its interval
   Frames(6);
   EXPECT_NEAR(G.GameHours, 1.1, 1e-9);
+}
+
+// A restored state may hold any count: counts at their type's maximum tick
+// or wrap on the next frame instead of overflowing.
+TEST_F(Clocks, CountsRestoredAtTheirMaximumTickOrWrap) {
+  G.TimeStep = 0.1;
+  G.WeaponRack[0] = 1;
+  StartTimer1();
+  StartTimer2();
+  G.Timer1Frames = std::numeric_limits<std::int32_t>::max();
+  G.Timer2Frames = std::numeric_limits<std::int32_t>::max();
+  G.Frame = std::numeric_limits<std::int64_t>::max();
+  Frames(1);
+  EXPECT_EQ(G.Frame, 0);
+  EXPECT_EQ(G.Timer1Frames, 0);
+  EXPECT_EQ(G.Timer2Frames, 0);
+  EXPECT_NEAR(G.GameHours, 0.1, 1e-9);
+  EXPECT_EQ(G.WeaponReload[1], -1);
+  G.Timer1Frames = -5;
+  Frames(1);
+  EXPECT_EQ(G.Timer1Frames, 0);
+  Frames(6);
+  EXPECT_NEAR(G.GameHours, 0.3, 1e-9) << "then a tick every sixth frame again";
 }
 
 TEST_F(Clocks, ATickLeftQueuedByAScreenChangeIsDroppedOnceItsClockStops) {

@@ -62,7 +62,7 @@ TEST_F(Menu, LoadBeforeAnyGameStartsANewOneWithoutTheOpeningPicture) {
   host.Click(300, BandY(3));
   Frames(1);
   EXPECT_EQ(Sounds(4, 1), 1);
-  EXPECT_EQ(G.LoadAfterStart, True);
+  EXPECT_EQ(G.LoadAfterStart, False);  // used by that start, and cleared
   EXPECT_EQ(G.ClickSeen, True);  // the opening picture would have waited for a new press
   EXPECT_EQ(G.StatusSlot[DockedSlot].Active, False);
   EXPECT_EQ(G.BridgeActive, True);

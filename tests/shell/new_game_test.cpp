@@ -3,6 +3,8 @@
 
 #include "shell/death.h"
 #include "shell/menu.h"
+#include "shell/prompts.h"
+#include "shell/saved_games.h"
 #include "loop_fixture.h"
 
 namespace lf::test {
@@ -92,6 +94,86 @@ TEST_F(NewGame, SeedsTheGeneratorFromTheHostsClock) {
   EXPECT_NE(G.Random.State, first);
 }
 
+// New over a game in flight: whatever the last game left, the new one
+// begins with no hull, no components, no crew and an empty hold.
+TEST_F(NewGame, ASecondNewAfterAFittedCrewedLoadedShipStartsClean) {
+  OnBridge();  // six posts crewed, seven slots fitted
+  G.HullRace = 1;
+  G.HullClass = 4;
+  G.HullPoints = G.HullPointsMax = 3500;
+  G.FreeCargo = 300;
+  G.FreeMass = 200;
+  G.UnfittedComp[2][1] = 3;
+  G.UnfittedComp[2][2] = 4;
+  G.AmmoLeft[3] = 12;
+  G.Cargo[4] = 40;
+  G.CrewPost[2].Infected = True;
+  G.CrewPost[3].SalaryBalance = -300;
+  G.TreatmentAlloc[2] = 20;
+  G.WeaponSetting = G.WeaponLevel = 150;
+  G.ShieldSetting = G.ShieldLevel = 180;
+  G.Cash = 123;
+  G.SensorRingFrame = 6.5;
+  G.ShipStepX = 2;
+  G.StarLaneKnown = True;
+  SetMessage("", "A MESSAGE OF THE LAST GAME", "", 3, "_ITS SECOND PAGE", "", "");
+  G.LoadAfterStart = False;
+
+  EraseInfo();
+  host.Click(300, 300);  // past the opening picture
+  try {
+    StartNew();
+  } catch (const ScreenChange&) {
+  }
+  EXPECT_EQ(G.StatusSlot[DockedSlot].Active, True) << "the opening picture, then docked";
+  EXPECT_EQ(G.ProgressCount, 360) << "the loads of a new game fill the loading bar exactly";
+  EXPECT_EQ(G.HullRace, 0);
+  EXPECT_EQ(G.HullClass, 0);
+  EXPECT_EQ(G.HullPoints, 0);
+  EXPECT_EQ(G.HullPointsMax, 0);
+  EXPECT_EQ(G.HardpointCount, 0);
+  EXPECT_EQ(G.FreeCargo, 0);
+  EXPECT_EQ(G.FreeMass, 0);
+  for (int slot = 0; slot <= 20; ++slot) {
+    EXPECT_EQ(G.FittedComp[slot][1], 0) << "slot " << slot;
+    EXPECT_EQ(G.FittedHealth[slot], 0) << "slot " << slot;
+    EXPECT_EQ(G.RepairCrew[slot], 0) << "slot " << slot;
+    EXPECT_EQ(G.AmmoLeft[slot], 0) << "slot " << slot;
+  }
+  EXPECT_EQ(G.RepairPool, 0);
+  EXPECT_EQ(G.UnfittedComp[2][1], 0);
+  for (int post = 1; post <= 6; ++post) {
+    EXPECT_EQ(G.CrewPost[post].Person, 0) << "post " << post;
+    EXPECT_EQ(G.CrewPost[post].Infected, False) << "post " << post;
+    EXPECT_EQ(G.CrewPost[post].SalaryBalance, 0) << "post " << post;
+    EXPECT_EQ(G.TreatmentAlloc[post], 0) << "post " << post;
+  }
+  for (int c = 1; c <= 14; ++c) EXPECT_EQ(G.Cargo[c], 0) << "commodity " << c;
+  EXPECT_EQ(G.WeaponSetting, 0);
+  EXPECT_EQ(G.ShieldSetting, 0);
+  EXPECT_EQ(G.PropulsionSetting, 200);
+  EXPECT_EQ(G.SensorSetting, 100);
+  EXPECT_EQ(G.LifeSupportSetting, 100);
+  EXPECT_EQ(G.Cash, 50000);
+  EXPECT_EQ(G.SensorRingFrame, 0);
+  EXPECT_EQ(G.ShipStepX, 0);
+  EXPECT_EQ(G.StarLaneKnown, False);
+  EXPECT_EQ(G.MessagePending, False);
+  EXPECT_EQ(G.PromptLine[4], "") << "no page of the last game waits";
+}
+
+TEST_F(NewGame, LoadingThroughAStartIsUsedOnce) {
+  StartWithoutPicture();
+  EXPECT_EQ(G.LoadAfterStart, False);
+  EXPECT_EQ(G.StatusSlot[DockedSlot].Active, False);
+  host.Click(300, 300);
+  try {
+    StartNew();
+  } catch (const ScreenChange&) {
+  }
+  EXPECT_EQ(G.StatusSlot[DockedSlot].Active, True) << "the next start shows the picture and docks";
+}
+
 TEST_F(NewGame, DeathShowsItsPictureUntilAPressThenTheMenu) {
   OnBridge();
   EventHandler();  // no loss: nothing happens
@@ -116,7 +198,7 @@ TEST_F(NewGame, DeathShowsItsPictureUntilAPressThenTheMenu) {
   EXPECT_TRUE(MediaLog().empty());
   host.Click(300, BandY(3));
   Frames(1);
-  EXPECT_EQ(G.LoadAfterStart, True);
+  EXPECT_EQ(G.LoadAfterStart, False) << "used by that start, and cleared";
   EXPECT_EQ(G.StatusSlot[DeadSlot].Active, False);
   EXPECT_EQ(TopScreen(), Screen::Bridge);
 }

@@ -177,6 +177,19 @@ TEST_F(PromptTest, SecondPageNeedsTwoOks) {
   EXPECT_EQ(MediaLog().size(), 2u);
 }
 
+TEST_F(PromptTest, ANewMessageKeepsAWaitingSecondPageUnlessItBringsItsOwn) {
+  SetMessage("ONE", "TWO", "THREE", 5, "_FOUR", "FIVE", "SIX");
+  SetMessage("", "A WARNING OVER IT", "", 3);
+  EXPECT_EQ(G.PromptLine[2], "A WARNING OVER IT");
+  EXPECT_EQ(G.PromptLine[4], "_FOUR");
+  ClickAt(580, 440);
+  EXPECT_EQ(G.PromptLine[1], "_FOUR") << "the page still follows";
+  EXPECT_EQ(G.MessagePending, True);
+
+  SetMessage("", "ANOTHER", "", 3, "_ITS OWN PAGE", "", "");
+  EXPECT_EQ(G.PromptLine[4], "_ITS OWN PAGE");
+}
+
 TEST_F(PromptTest, AnswerAreasAreStrict) {
   SetQuestion("", "Q", "", 1);
   for (auto [x, y] : {std::pair{490, 440}, {530, 440}, {510, 420}, {510, 460}, {560, 440},

@@ -57,7 +57,7 @@ constexpr BitmapSpec kBitmaps[] = {
     {"gfx/backs/special.bmp", 130, 130, 130, 130, 1, false},
     {"gfx/backs/unfitted.bmp", 130, 130, 130, 130, 1, false},
     // Small pictures of the panels and the sector view
-    {"gfx/misc/upgrade.bmp", 6, 6, 6, 6, 1, true},  // open: a 6x6 mark like heart/rcross
+    {"gfx/misc/upgrade.bmp", 60, 7, 15, 7, 4, true},  // available, under the cursor, not upgradable, upgraded
     {"gfx/misc/heart.bmp", 6, 6, 6, 6, 1, true},
     {"gfx/misc/rcross.bmp", 6, 6, 6, 6, 1, true},
     {"gfx/misc/icon_1.bmp", 12, 15, 12, 15, 1, true},
@@ -69,8 +69,8 @@ constexpr BitmapSpec kBitmaps[] = {
     {"gfx/misc/hero_pod.bmp", 480, 20, 20, 20, 24, true},  // open: a pod strip like cargo.bmp
     {"gfx/misc/quarantine_up.bmp", 65, 8, 65, 8, 1, true},
     {"gfx/misc/quarantine_down.bmp", 65, 8, 65, 8, 1, true},
-    {"gfx/misc/treatment_up.bmp", 58, 8, 58, 8, 1, true},  // open: 58 wide, to x 504
-    {"gfx/misc/treatment_down.bmp", 58, 8, 58, 8, 1, true},  // open: 58 wide, to x 504
+    {"gfx/misc/treatment_up.bmp", 65, 8, 65, 8, 1, true},
+    {"gfx/misc/treatment_down.bmp", 65, 8, 65, 8, 1, true},
     {"gfx/misc/a_j_1.bmp", 9, 6, 9, 6, 1, true},  // open: 9x6, rows 7 apart, 10 apart in x
     {"gfx/misc/a_j_2.bmp", 9, 6, 9, 6, 1, true},  // open: 9x6, rows 7 apart, 10 apart in x
     {"gfx/misc/a_j_3.bmp", 9, 6, 9, 6, 1, true},  // open: 9x6, rows 7 apart, 10 apart in x
@@ -116,7 +116,7 @@ constexpr BitmapSpec kBitmaps[] = {
     {"gfx/nebulas/nebula_2.bmp", 400, 240, 400, 240, 1, true},
     {"gfx/nebulas/nebula_3.bmp", 400, 240, 400, 240, 1, true},
     {"gfx/nebulas/nebula_4.bmp", 400, 240, 400, 240, 1, true},
-    {"gfx/nebulas/ast_field.bmp", 200, 200, 200, 200, 1, true},
+    {"gfx/nebulas/ast_field.bmp", 7200, 200, 200, 200, 36, true},
     {"gfx/stars/star_1.bmp", 400, 240, 400, 240, 1, true},
     {"gfx/stars/star_2.bmp", 400, 240, 400, 240, 1, true},
     // Body filmstrips: square frames, ten a row, 90 frames; list icons; station marker; mission marker strip

@@ -2,6 +2,7 @@
 // the grid, sensor rings and static.
 #include <algorithm>
 #include <cmath>
+#include <vector>
 
 #include "families.h"
 #include "noise.h"
@@ -49,27 +50,82 @@ bool DrawSpace(const BitmapSpec& spec, Canvas& cv) {
     return true;
   }
   if (p == "gfx/nebulas/ast_field.bmp") {
+    // 36 frames of one field, stepped through in a loop: every rock turns on
+    // itself and circles a little about its place, whole turns over the 36
+    // frames so the last frame runs on into the first.
+    struct Rock {
+      double x, y, r, drift, phase, spin, grey;
+      int turns;
+      double shape[7];
+    };
     Rng rng(seed);
-    for (int i = 0; i < 60; ++i) {
-      const double x = rng.Range(15, 185), y = rng.Range(15, 185), r = rng.Range(1.5, 6.5);
-      cairo_new_path(cr);
-      for (int k = 0; k < 7; ++k) {
-        const double a = k * 2 * M_PI / 7, rr = r * rng.Range(0.7, 1.2);
-        cairo_line_to(cr, x + std::cos(a) * rr, y + std::sin(a) * rr);
+    std::vector<Rock> rocks(70);
+    for (Rock& k : rocks) {
+      k.x = rng.Range(18, 182);
+      k.y = rng.Range(18, 182);
+      k.r = rng.Range(1.5, 6.5);
+      k.drift = rng.Range(0.5, 3.0);
+      k.phase = rng.Range(0, 2 * M_PI);
+      k.spin = rng.Range(0, 2 * M_PI);
+      k.turns = rng.Unit() < 0.5 ? 1 : -1;
+      k.grey = rng.Range(0.35, 0.6);
+      for (double& v : k.shape) v = rng.Range(0.7, 1.2);
+    }
+    const int frames = spec.frames, d = spec.frameW;
+    for (int f = 0; f < frames; ++f) {
+      const double t = 2 * M_PI * f / frames;
+      for (const Rock& k : rocks) {
+        const double cx = f * d + k.x + std::cos(k.phase + t) * k.drift;
+        const double cy = k.y + std::sin(k.phase + t) * k.drift;
+        cairo_new_path(cr);
+        for (int i = 0; i < 7; ++i) {
+          const double a = k.spin + k.turns * t + i * 2 * M_PI / 7, rr = k.r * k.shape[i];
+          cairo_line_to(cr, cx + std::cos(a) * rr, cy + std::sin(a) * rr);
+        }
+        cairo_close_path(cr);
+        cairo_set_source_rgb(cr, k.grey, k.grey * 0.9, k.grey * 0.8);
+        cairo_fill_preserve(cr);
+        cairo_set_source_rgb(cr, k.grey * 0.5, k.grey * 0.45, k.grey * 0.4);
+        cairo_set_line_width(cr, 0.8);
+        cairo_stroke(cr);
       }
-      cairo_close_path(cr);
-      const double g = rng.Range(0.35, 0.6);
-      cairo_set_source_rgb(cr, g, g * 0.9, g * 0.8);
-      cairo_fill_preserve(cr);
-      cairo_set_source_rgb(cr, g * 0.5, g * 0.45, g * 0.4);
-      cairo_set_line_width(cr, 0.8);
-      cairo_stroke(cr);
     }
     return true;
   }
   if (p == "gfx/back2.bmp") {
-    NoiseCloud(cv, seed, {0.10, 0.08, 0.25}, {0.25, 0.12, 0.35}, 160, 0.5, 0);
-    Stars(cv, seed + 1, 1800, 0.5);
+    // Drawn keyed over the nebulae and the asteroid fields: a sparse
+    // backdrop of faint dust and far galaxies that leaves most of the
+    // picture in the key colour.
+    // No cloud of its own: a dim cloud drawn over a nebula reads as a hole
+    // in it. Dust is loose grains in drifts, each grain a lit pixel.
+    Rng rng(seed + 2);
+    for (int drift = 0; drift < 40; ++drift) {
+      const double x = rng.Range(20, 980), y = rng.Range(20, 980), r = rng.Range(8, 30);
+      const Rgb tint = rng.Unit() < 0.5 ? Rgb{0.75, 0.65, 0.95} : Rgb{0.95, 0.8, 0.7};
+      for (int grain = 0; grain < 30; ++grain) {
+        const double a = rng.Range(0, 2 * M_PI), d = r * std::sqrt(rng.Unit());
+        cv.Put(int(x + std::cos(a) * d), int(y + std::sin(a) * d * 0.6), Scale(tint, rng.Range(0.25, 0.55)));
+      }
+    }
+    cv.Dirty();
+    for (int g = 0; g < 9; ++g) {
+      const double x = rng.Range(40, 960), y = rng.Range(40, 960), r = rng.Range(5, 14);
+      const double tilt = rng.Range(0, M_PI), flat = rng.Range(0.3, 0.8);
+      cairo_save(cr);
+      cairo_translate(cr, x, y);
+      cairo_rotate(cr, tilt);
+      cairo_scale(cr, 1, flat);
+      cairo_pattern_t* glow = cairo_pattern_create_radial(0, 0, 0, 0, 0, r);
+      cairo_pattern_add_color_stop_rgba(glow, 0, 0.85, 0.8, 0.95, 0.9);
+      cairo_pattern_add_color_stop_rgba(glow, 0.35, 0.45, 0.4, 0.7, 0.6);
+      cairo_pattern_add_color_stop_rgba(glow, 1, 0.1, 0.08, 0.2, 0);
+      cairo_set_source(cr, glow);
+      cairo_arc(cr, 0, 0, r, 0, 2 * M_PI);
+      cairo_fill(cr);
+      cairo_pattern_destroy(glow);
+      cairo_restore(cr);
+    }
+    Stars(cv, seed + 1, 700, 0.5);
     return true;
   }
   if (p == "gfx/grid.bmp") {
@@ -79,9 +135,14 @@ bool DrawSpace(const BitmapSpec& spec, Canvas& cv) {
     return true;
   }
   if (StartsWith(p, "gfx/srange_")) {
+    // A frame of 2R is drawn at the ship's anchor less (R - 13, R - 11),
+    // and the ship's picture, 35 square, at the anchor less (17, 10): the
+    // ship's middle stands at (R - 12.5, R - 3.5) of the frame, and the
+    // ring is centred there, as large as the frame lets it be.
     const int d = spec.frameW;
     for (int i = 0; i < spec.frames; ++i) {
-      const double cx = i * d + d / 2.0, cy = d / 2.0, r = d / 2.0 - 1.5;
+      const double R = d / 2.0;
+      const double cx = i * d + R - 12.5, cy = R - 3.5, r = R - 14;
       cairo_set_line_width(cr, 1.2);
       cairo_set_source_rgb(cr, 0.15, 0.55, 0.45);
       cairo_arc(cr, cx, cy, r, 0, 2 * M_PI);

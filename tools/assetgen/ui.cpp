@@ -63,7 +63,14 @@ void PanelBack(Canvas& cv, const std::string& title, uint32_t seed) {
     cairo_line_to(cr, x, y + sy * 8);
   }
   cairo_stroke(cr);
-  Text(cr, title, 65, 126, 6, Scale(kCyan, 0.45), Align::Center, true, true);
+  // The caption stands at the foot, except where the panel's own lines
+  // fill it: the power panel's generator lines (it goes to the top, where
+  // the panel is free), the crew's salary line and the research list's
+  // skill line (no caption: the lists run from the top).
+  if (title != "CREW" && title != "RESEARCH") {
+    const double captionY = title == "ENERGY" ? 12 : 126;
+    Text(cr, title, 65, captionY, 6, Scale(kCyan, 0.45), Align::Center, true, true);
+  }
   (void)seed;
 }
 
@@ -247,7 +254,27 @@ bool DrawBridgeUi(const BitmapSpec& spec, Canvas& cv) {
       return true;
     }
     if (n == "upgrade.bmp") {
-      Arrow(cr, 0, 0, 6, 4, 0, kGreen); FillRect(cr, 2, 4, 2, 2, kGreen);
+      // Four 15x7 icons: available, available under the cursor, not
+      // upgradable, upgraded.
+      const Rgb plate[4] = {{0.08, 0.25, 0.15}, {0.15, 0.45, 0.25}, {0.18, 0.18, 0.2}, {0.1, 0.22, 0.3}};
+      for (int i = 0; i < 4; ++i) {
+        const double x = 15 * i;
+        FillRect(cr, x, 0, 15, 7, plate[i]);
+        FillRect(cr, x, 0, 15, 1, Scale(plate[i], 1.6));
+        if (i < 2) {
+          Arrow(cr, x + 4, 1, 7, 3, 0, i == 1 ? kWhite : kGreen);
+          FillRect(cr, x + 6, 4, 3, 2, i == 1 ? kWhite : kGreen);
+        } else if (i == 2) {
+          FillRect(cr, x + 4, 3, 7, 1, {0.55, 0.55, 0.58});
+        } else {
+          cairo_set_line_width(cr, 1.2);
+          SetColor(cr, kCyan);
+          cairo_move_to(cr, x + 4, 3.5);
+          cairo_line_to(cr, x + 6.5, 5.5);
+          cairo_line_to(cr, x + 11, 1.5);
+          cairo_stroke(cr);
+        }
+      }
       return true;
     }
     if (StartsWith(n, "icon_")) {
