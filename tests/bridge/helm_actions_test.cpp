@@ -10,6 +10,7 @@
 #include "shell/bridge_frame_steps.h"
 #include "shell/doors.h"
 #include "shell/program.h"
+#include "shell/screens.h"
 #include "shell/prompts.h"
 #include "universe/catalogue.h"
 #include "universe/quadrant.h"
@@ -458,6 +459,43 @@ TEST_F(HelmActionsTest, TheLaneOfTheFourthQuadrantEndsTheProgramCleanly) {
   EXPECT_NO_THROW(EnteringStarlane());
   G.StarLaneX = -300;
   EXPECT_NO_THROW(DrawStarLanes());
+}
+
+// --- Bad input ----------------------------------------------------------
+
+TEST_F(HelmActionsTest, ClicksAnywhereInEveryOrbitStateWithTheNavigatorsPanelsOpen) {
+  for (int n = 1; n <= 20; ++n) Body(n, 2500 + 10 * n, 2500, n % 7 + 1, n % 2 == 0).Known = True;
+  G.Debris[1] = {2505, 2500, True, True};
+  G.CargoPod[1] = {2495, 2500, True};
+  Crew(4, 40, 3);
+  G.StarLaneKnown = True;
+  G.StarLaneX = -50;
+  G.StarLaneY = 2500;
+  for (int orbit = 0; orbit <= 7; ++orbit) {
+    for (int top : {-3, 1, 95, 30000}) {
+      SCOPED_TRACE("orbit " + std::to_string(orbit) + " top " + std::to_string(top));
+      OpenNavigator();
+      for (int b = 1; b <= 10; ++b) ButtonState(1, b) = 0;
+      ButtonState(1, 2) = 1;
+      G.AutopilotTop = static_cast<std::int16_t>(top);
+      G.AutopilotCount = 120;  // beyond the list's 100 rows
+      for (int x = -3; x <= 643; x += 29)
+        for (int y = 270; y <= 483; y += 7) {
+          G.OrbitState = static_cast<std::int16_t>(orbit);
+          G.MessagePending = G.QuestionPending = False;
+          G.HailedShip = orbit == 6 ? 1 : 0;
+          PointAt(x, y);
+          try {
+            CheckBridgeMouseDown(1);
+            DrawAutopilotList();
+            DrawDebrisCargo();
+            DrawStarLanes();
+            EnteringStarlane();
+          } catch (const ScreenChange&) {
+          }
+        }
+    }
+  }
 }
 
 }  // namespace
