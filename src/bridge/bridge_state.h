@@ -83,8 +83,10 @@ struct BridgeState {
   std::int16_t MedicalPool = 0;
   Table<std::int16_t, 6> TreatmentAlloc{};
 
-  // Ore brought up by the last lander; the star lane's animation frame.
+  // Ore brought up by the last lander; the star lane's place and its
+  // animation frame.
   std::int16_t LanderLoad = 0;
+  std::int32_t StarLaneX = 0, StarLaneY = 0;
   double StarLaneFrame = 0;
 };
 
@@ -128,6 +130,8 @@ void VisitFields(V& v, BridgeState& s) {
   v("MedicalPool", s.MedicalPool);
   v("TreatmentAlloc", s.TreatmentAlloc);
   v("LanderLoad", s.LanderLoad);
+  v("StarLaneX", s.StarLaneX);
+  v("StarLaneY", s.StarLaneY);
   v("StarLaneFrame", s.StarLaneFrame);
 }
 

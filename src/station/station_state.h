@@ -2,8 +2,6 @@
 // office's holdings.
 #pragma once
 
-#include <cstdint>
-
 #include "shell/numeric.h"
 #include "shell/table.h"
 
@@ -14,7 +12,6 @@ struct StationState {
   double Reputation = 0;
   Table<Flag, 10> TranslatorOwned{};
   Flag StarLaneKnown = False;
-  std::int32_t StarLaneX = 0, StarLaneY = 0;
 };
 
 template <class V>
@@ -23,8 +20,6 @@ void VisitFields(V& v, StationState& s) {
   v("Reputation", s.Reputation);
   v("TranslatorOwned", s.TranslatorOwned);
   v("StarLaneKnown", s.StarLaneKnown);
-  v("StarLaneX", s.StarLaneX);
-  v("StarLaneY", s.StarLaneY);
 }
 
 }  // namespace lf
