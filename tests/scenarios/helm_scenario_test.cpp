@@ -4,6 +4,7 @@
 // and the last one ends the run.
 #include <gtest/gtest.h>
 
+#include <cmath>
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
@@ -63,7 +64,7 @@ class HelmScenario : public ::testing::Test {
   fs::path dir;
 };
 
-TEST_F(HelmScenario, TheAutopilotFliesToAStationTheDoorsCloseOnOrbitAndClearanceDocks) {
+TEST_F(HelmScenario, TheAutopilotFliesToAStationOrbitsDocksDepartsAndDocksAtASecond) {
   ASSERT_EQ(Run("helm_voyage.txt"), 0) << Err();
   const json list = Dump("list.json");
   EXPECT_EQ(list["AutopilotCount"], 2);
@@ -89,6 +90,21 @@ TEST_F(HelmScenario, TheAutopilotFliesToAStationTheDoorsCloseOnOrbitAndClearance
   const json docked = Dump("docked.json");
   EXPECT_EQ(docked["StationActive"], -1);
   EXPECT_EQ(docked["BridgeActive"], 0);
+
+  const json departed = Dump("departed.json");
+  EXPECT_EQ(departed["BridgeActive"], -1);
+  EXPECT_EQ(departed["StatusSlot"][12]["Active"], 0);
+  EXPECT_EQ(departed["OrbitState"], 3) << "the ship leaves the station into orbit";
+  const json left = Dump("left.json");
+  EXPECT_EQ(left["OrbitState"], 1);
+  EXPECT_EQ(left["DestX"], left["ShipX"]);
+
+  const json second = Dump("second_arrival.json");
+  EXPECT_EQ(second["DestX"], 548.0);
+  EXPECT_EQ(second["PromptLine"][2], "DO YOU WANT TO ENTER ORBIT?");
+  const json dock2 = Dump("second_dock.json");
+  EXPECT_EQ(dock2["StationActive"], -1);
+  EXPECT_LT(std::hypot(dock2["ShipX"].get<double>() - 548, dock2["ShipY"].get<double>() - 3370), 58);
 }
 
 TEST_F(HelmScenario, DockingIsRefusedWhereThereIsNoStationToDockWith) {
