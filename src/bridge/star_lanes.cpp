@@ -51,8 +51,11 @@ void EnteringStarlane() {
   G.HullPoints *= 0.66;
   ++G.CurrentQuadrant;
   RandomizeQuad(G.CurrentQuadrant);
-  // The old quadrant's bodies leave the autopilot list with it.
+  // The old quadrant's bodies leave the autopilot list with it, and the
+  // ship that was followed stayed behind.
   MakeAutopilotList();
+  G.FollowShip = 0;
+  G.FollowMode = 0;
 }
 
 }  // namespace lf

@@ -426,6 +426,9 @@ TEST_F(HelmActionsTest, TheLaneLeadsIntoTheNextQuadrantWithShipCrewAndCargoKept)
   G.StarLaneX = 2510;
   G.StarLaneY = 2500;
   G.Cargo[1] = 12;
+  G.FollowShip = G.FollowMode = 1;
+  Body(1, 2600, 2500).Known = True;
+  MakeAutopilotList();
   Crew(1, 5, 4);
   G.HullPoints = 1;
   EnteringStarlane();
@@ -436,6 +439,8 @@ TEST_F(HelmActionsTest, TheLaneLeadsIntoTheNextQuadrantWithShipCrewAndCargoKept)
   EXPECT_EQ(G.Cargo[1], 12);
   EXPECT_EQ(G.CrewPost[1].Person, 5);
   EXPECT_GE(G.PlanetCount, 50) << "a new quadrant was laid out";
+  EXPECT_EQ(G.AutopilotCount, 0) << "nothing is charted in the new quadrant";
+  EXPECT_EQ(G.FollowShip, 0);
   ASSERT_GE(MediaLog().size(), 2u);
   EXPECT_EQ(MediaLog()[0].kind, MediaCall::Kind::StopTrack);
 }
