@@ -39,6 +39,10 @@ void CheckStopAvailability();
 void DrawDebrisCargo();
 void DrawAutopilotList();
 void EnteringStarlane();
+// The landing story's landing outcome: ore from the body below.
+void LanderDeployed();
+// Salvage from tractored debris: a component into the unfitted hold.
+void AddDebris();
 
 // Communications.
 void DrawHailMessages();

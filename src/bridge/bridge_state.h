@@ -72,13 +72,22 @@ struct BridgeState {
   Flag HeatWarned = False;
   Flag NoComputer = False, NoSensor = False, NoWeapon = False, NoShield = False, NoEngine = False;
 
-  // The autopilot list's first row, and the ship a click attacks.
+  // The autopilot list: bodies 1.. by number, the rows and the first row
+  // shown; the ship a click attacks.
+  Table<std::int16_t, 100> AutopilotList{};
+  std::int16_t AutopilotCount = 0;
   std::int16_t AutopilotTop = 0;
   std::int16_t FightShip = 0;
 
   // The medical officer's effort and its shares by crew post.
   std::int16_t MedicalPool = 0;
   Table<std::int16_t, 6> TreatmentAlloc{};
+
+  // Ore brought up by the last lander; the star lane's place and its
+  // animation frame.
+  std::int16_t LanderLoad = 0;
+  std::int32_t StarLaneX = 0, StarLaneY = 0;
+  double StarLaneFrame = 0;
 };
 
 template <class V>
@@ -114,10 +123,16 @@ void VisitFields(V& v, BridgeState& s) {
   v("HeatWarned", s.HeatWarned);
   v("NoComputer", s.NoComputer); v("NoSensor", s.NoSensor); v("NoWeapon", s.NoWeapon);
   v("NoShield", s.NoShield); v("NoEngine", s.NoEngine);
+  v("AutopilotList", s.AutopilotList);
+  v("AutopilotCount", s.AutopilotCount);
   v("AutopilotTop", s.AutopilotTop);
   v("FightShip", s.FightShip);
   v("MedicalPool", s.MedicalPool);
   v("TreatmentAlloc", s.TreatmentAlloc);
+  v("LanderLoad", s.LanderLoad);
+  v("StarLaneX", s.StarLaneX);
+  v("StarLaneY", s.StarLaneY);
+  v("StarLaneFrame", s.StarLaneFrame);
 }
 
 }  // namespace lf

@@ -5,11 +5,6 @@
 
 namespace lf {
 
-// Helm actions: filled by the helm.
-void DrawDebrisCargo() {}
-void DrawAutopilotList() {}
-void EnteringStarlane() {}
-
 // Communications: filled by the comms officer's page.
 void DrawHailMessages() {}
 void DrawDiplomacy() {}
@@ -37,14 +32,6 @@ void DrawTime() {}
 void HandleShipEvent7() {}
 void HandleShipEvent8() {}
 void DrawShipStatus() {}
-
-// Helm actions the bridge's buttons call: filled by the helm.
-void MakeAutopilotList() {}
-void CheckAutopilot() {}
-void DrawStarLanes() {}
-void Butt_1_3() {}
-void Butt_1_7() {}
-void Butt_1_8() {}
 
 // Communications and ship trade: filled by the comms officer's page.
 void Butt_2_2() {}

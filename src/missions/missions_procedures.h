@@ -10,5 +10,8 @@ void CheckPatrolPoint();
 // The objectives on the map, and the panel of button (5,4).
 void DrawMissionObjectives();
 void DrawCurrentMissions();
+// Told of what the ship has done that a mission may wait for: 1 a pod
+// tractored aboard, 2..5 scans, 6 a mission event's end.
+void CheckMission(int kind);
 
 }  // namespace lf
