@@ -10,10 +10,6 @@ void DrawDebrisCargo() {}
 void DrawAutopilotList() {}
 void EnteringStarlane() {}
 
-// Communications: filled by the comms officer's page.
-void DrawHailMessages() {}
-void DrawDiplomacy() {}
-
 // Maintenance and cargo: filled by the engineer's page.
 void UpdateRepair() {}
 void DrawCargoList() {}
@@ -45,12 +41,6 @@ void DrawStarLanes() {}
 void Butt_1_3() {}
 void Butt_1_7() {}
 void Butt_1_8() {}
-
-// Communications and ship trade: filled by the comms officer's page.
-void Butt_2_2() {}
-void Butt_2_4() {}
-void CheckHailSel() {}
-void CheckTradeSel() {}
 
 // Crew health: filled by the medical officer's page.
 void Butt_4_2() {}
