@@ -86,6 +86,25 @@ TEST_F(TrafficScenario, AFriendlyTraderCallsIsGreetedTradesAndTheLinkCloses) {
   EXPECT_EQ(closed["TradeOpen"], 0);
   EXPECT_EQ(closed["OtherShip"][1]["Greeted"], 0);
   EXPECT_EQ(closed["Cargo"][1], 9);
+
+  // No Lagew translator: the officer says so and no hail opens.
+  const json refused = Dump("no_translator.json");
+  EXPECT_EQ(refused["HailedShip"], 0);
+  EXPECT_EQ(refused["PromptLine"][1], "I AM AFFRAID WE DO NOT HAVE THE TECHNICAL");
+
+  // A Human scout hailed by a click: the friendly menu; data exchanged.
+  const json hailed = Dump("hailed.json");
+  EXPECT_EQ(hailed["HailedShip"], 4);
+  EXPECT_EQ(hailed["OrbitState"], 6);
+  EXPECT_EQ(hailed["HailLine"][2], "EXCHANGE INFO");
+  const json exchanged = Dump("exchanged.json");
+  EXPECT_EQ(exchanged["RaceRelation"][1], 87);  // 84 x 31/30 = 86.8
+  EXPECT_EQ(exchanged["OtherShip"][4]["InfoGiven"], -1);
+  EXPECT_EQ(exchanged["PromptLine"][5], " WERY WELL. HERE IS OUR DATA.");
+  int known = 0;
+  for (const json& body : exchanged["Planet"]) known += body["Known"] != 0;
+  EXPECT_GE(known, 1);
+  EXPECT_LE(known, 4);
 }
 
 TEST_F(TrafficScenario, NonsenseShipTablesKeepTheBridgeRunning) {

@@ -7,6 +7,7 @@
 
 #include "bridge/bridge_fixture.h"
 #include "display/gfx.h"
+#include "shell/bridge_frame_steps.h"
 #include "shell/screens.h"
 #include "universe/catalogue.h"
 #include "universe/other_ships.h"
@@ -282,6 +283,31 @@ TEST_F(TrafficTest, SensorsDrawUnknownAndIdentifiedShipsButNoIdentifiedClass19) 
   RecordedBlits().clear();
   ASSERT_FALSE(RunFrames(1));
   EXPECT_TRUE(RecordedBlits().empty());
+}
+
+TEST_F(TrafficTest, TheNavigatorFollowsAShipPickedInTheViewAsItFlies) {
+  G.SensorLevel = 100;
+  FullPropulsion();
+  G.PageOpen[1] = 1;
+  ButtonState(1, 1) = 1;
+  OtherShipRecord& s = Add(1, G.ShipX + 40, G.ShipY + 20);
+  s.TargetX = 4000;
+  s.StepX = 1;
+  // The ship's middle on the screen: (300 + 40 - 14 + 12, 125 + 20 - 8 + 7).
+  Press(338, 144);
+  ASSERT_EQ(G.FollowMode, 1);
+  ASSERT_EQ(G.FollowShip, 1);
+  ASSERT_FALSE(RunFrames(30));
+  FollowOtherShip();
+  EXPECT_EQ(G.DestX, s.X);
+  EXPECT_EQ(G.DestY, s.Y);
+  EXPECT_GT(s.X, G.ShipX + 90);
+  EXPECT_GT(G.ShipStepX, 0);  // the course was set towards it
+
+  // A followed row restored beyond the table is left alone.
+  G.FollowShip = 800;
+  Skip(FollowOtherShip);
+  EXPECT_EQ(G.DestX, s.X);
 }
 
 TEST_F(TrafficTest, RestoredRowsBeyondTheTablesKeepTheFrameRunning) {
