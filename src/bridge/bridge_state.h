@@ -57,6 +57,9 @@ struct BridgeState {
   // Helm, maintenance, hails and science.
   Flag HasLander = False;
   Flag TradeOpen = False;
+  // The hail menu's lines of this frame, and what the hailed trader offers.
+  Table<std::string, 30> HailLine{};
+  Table<std::int16_t, 14> ShipOffer{};
   std::int16_t RepairPool = 0;
   Flag ScanRequested = False;
   Table<std::int16_t, 7> RaceRelation{};
@@ -112,6 +115,8 @@ void VisitFields(V& v, BridgeState& s) {
   v("SparePower", s.SparePower);
   v("HasLander", s.HasLander);
   v("TradeOpen", s.TradeOpen);
+  v("HailLine", s.HailLine);
+  v("ShipOffer", s.ShipOffer);
   v("RepairPool", s.RepairPool);
   v("ScanRequested", s.ScanRequested);
   v("RaceRelation", s.RaceRelation);

@@ -5,10 +5,6 @@
 
 namespace lf {
 
-// Communications: filled by the comms officer's page.
-void DrawHailMessages() {}
-void DrawDiplomacy() {}
-
 // Maintenance and cargo: filled by the engineer's page.
 void UpdateRepair() {}
 void DrawCargoList() {}
@@ -32,12 +28,6 @@ void DrawTime() {}
 void HandleShipEvent7() {}
 void HandleShipEvent8() {}
 void DrawShipStatus() {}
-
-// Communications and ship trade: filled by the comms officer's page.
-void Butt_2_2() {}
-void Butt_2_4() {}
-void CheckHailSel() {}
-void CheckTradeSel() {}
 
 // Crew health: filled by the medical officer's page.
 void Butt_4_2() {}

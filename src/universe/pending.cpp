@@ -3,7 +3,4 @@
 
 namespace lf {
 
-// Other ships: filled by the other ships' rules.
-void DrawOtherShips() {}
-
 }  // namespace lf

@@ -74,6 +74,21 @@ void PanelBack(Canvas& cv, const std::string& title, uint32_t seed) {
   (void)seed;
 }
 
+// The trade list fills the whole panel: the ship's goods and the hold stand
+// on its left and right edges, so it has no frame lines or caption there,
+// only faint bands behind the arrow and name columns.
+void TradePanelBack(Canvas& cv) {
+  cairo_t* cr = cv.cr();
+  FillRect(cr, 0, 0, 130, 130, {0.04, 0.07, 0.09});
+  for (int y = 0; y < 130; y += 2) FillRect(cr, 0, y, 130, 1, {0.06, 0.10, 0.12});
+  Bevel(cr, 0, 0, 130, 130, kSteel, 0);
+  // Rows 286 + 7r on the screen lie at 9 + 7r in the panel.
+  for (int r = 0; r < 14; r += 2) FillRect(cr, 2, 8 + 7 * r, 126, 7, {0.07, 0.12, 0.15});
+  FillRect(cr, 18, 8, 1, 98, Scale(kCyan, 0.25));
+  FillRect(cr, 111, 8, 1, 98, Scale(kCyan, 0.25));
+  FillRect(cr, 8, 107, 114, 1, Scale(kCyan, 0.35));
+}
+
 std::string Upper(std::string_view s) {
   std::string r(s);
   for (char& c : r) c = char(std::toupper(static_cast<unsigned char>(c)));
@@ -145,6 +160,10 @@ bool DrawBridgeUi(const BitmapSpec& spec, Canvas& cv) {
   cairo_t* cr = cv.cr();
   if (p == "gfx/back.bmp") {
     BridgeBack(cv, seed);
+    return true;
+  }
+  if (p == "gfx/backs/trade.bmp") {
+    TradePanelBack(cv);
     return true;
   }
   if (StartsWith(p, "gfx/backs/")) {

@@ -1,0 +1,117 @@
+// Headless runs with other ships about: a trader's call, a greeting, a trade
+// and the end of the link; and restored ship tables that make no sense.
+#include <gtest/gtest.h>
+
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <sstream>
+#include <string>
+
+#include <nlohmann/json.hpp>
+
+namespace {
+
+namespace fs = std::filesystem;
+using nlohmann::json;
+
+class TrafficScenario : public ::testing::Test {
+ protected:
+  void SetUp() override {
+    const auto* info = ::testing::UnitTest::GetInstance()->current_test_info();
+    dir = fs::temp_directory_path() /
+          ("lanefarer_traffic_" + std::string(info->name()) + "_" + std::to_string(::getpid()));
+    fs::remove_all(dir);
+    fs::create_directories(dir);
+    for (const auto& entry : fs::directory_iterator(LANEFARER_SCENARIOS))
+      if (entry.path().extension() == ".txt" || entry.path().extension() == ".json")
+        fs::copy_file(entry.path(), dir / entry.path().filename());
+  }
+  void TearDown() override { fs::remove_all(dir); }
+
+  int Run(const std::string& script) {
+    const char* data = std::getenv("LANEFARER_TEST_DATA");
+    const std::string cmd = "cd '" + dir.string() + "' && ASAN_OPTIONS=detect_leaks=0 '" LANEFARER_BINARY
+                            "' --headless --seed 5 --data '" +
+                            std::string(data ? data : "/nonexistent-lanefarer-data") + "' --save-dir '" +
+                            (dir / "save").string() + "' --script " + script + " > out.txt 2> err.txt";
+    const int raw = std::system(cmd.c_str());
+    return WIFEXITED(raw) ? WEXITSTATUS(raw) : -1;
+  }
+  json Dump(const std::string& name) const {
+    std::ifstream f(dir / name);
+    EXPECT_TRUE(f) << name;
+    return json::parse(f);
+  }
+  std::string Err() const {
+    std::ifstream f(dir / "err.txt");
+    std::stringstream s;
+    s << f.rdbuf();
+    return s.str();
+  }
+
+  fs::path dir;
+};
+
+TEST_F(TrafficScenario, AFriendlyTraderCallsIsGreetedTradesAndTheLinkCloses) {
+  ASSERT_EQ(Run("trader_call.txt"), 0) << Err();
+  const json called = Dump("called.json");
+  EXPECT_EQ(called["HailedShip"], 1);
+  EXPECT_EQ(called["OrbitState"], 5);
+  EXPECT_EQ(called["PromptLine"][1], "HELLO, FRIENDLY TRAVELLER!");
+  EXPECT_EQ(called["OtherShip"][1]["WantsTrade"], 0);
+  EXPECT_EQ(called["PageOpen"][2], 1);
+
+  // GREET: 70 + 1; TRADE GOODS: (71 + 10) x 31/30 = 83.7, so 84.
+  const json open = Dump("trade_open.json");
+  EXPECT_EQ(open["OrbitState"], 6);
+  EXPECT_EQ(open["TradeOpen"], -1);
+  EXPECT_EQ(open["RaceRelation"][1], 84);
+  EXPECT_EQ(open["OtherShip"][1]["Greeted"], -1);
+  EXPECT_EQ(open["MessagePending"], 0);
+  const int offer = open["ShipOffer"][1];
+  ASSERT_GE(offer, 10);
+  const double price = open["BasePrice"][1];
+
+  // Ten bought, one sold back.
+  const json traded = Dump("traded.json");
+  EXPECT_EQ(traded["Cargo"][1], 9);
+  EXPECT_EQ(traded["ShipOffer"][1], offer - 9);
+  EXPECT_EQ(traded["FreeCargo"], 20 - 9);
+  EXPECT_DOUBLE_EQ(traded["Cash"].get<double>(), 1000 - 9 * price);
+
+  const json closed = Dump("closed.json");
+  EXPECT_EQ(closed["OrbitState"], 0);
+  EXPECT_EQ(closed["HailedShip"], 0);
+  EXPECT_EQ(closed["TradeOpen"], 0);
+  EXPECT_EQ(closed["OtherShip"][1]["Greeted"], 0);
+  EXPECT_EQ(closed["Cargo"][1], 9);
+
+  // No Lagew translator: the officer says so and no hail opens.
+  const json refused = Dump("no_translator.json");
+  EXPECT_EQ(refused["HailedShip"], 0);
+  EXPECT_EQ(refused["PromptLine"][1], "I AM AFFRAID WE DO NOT HAVE THE TECHNICAL");
+
+  // A Human scout hailed by a click: the friendly menu; data exchanged.
+  const json hailed = Dump("hailed.json");
+  EXPECT_EQ(hailed["HailedShip"], 4);
+  EXPECT_EQ(hailed["OrbitState"], 6);
+  EXPECT_EQ(hailed["HailLine"][2], "EXCHANGE INFO");
+  const json exchanged = Dump("exchanged.json");
+  EXPECT_EQ(exchanged["RaceRelation"][1], 87);  // 84 x 31/30 = 86.8
+  EXPECT_EQ(exchanged["OtherShip"][4]["InfoGiven"], -1);
+  EXPECT_EQ(exchanged["PromptLine"][5], " WERY WELL. HERE IS OUR DATA.");
+  int known = 0;
+  for (const json& body : exchanged["Planet"]) known += body["Known"] != 0;
+  EXPECT_GE(known, 1);
+  EXPECT_LE(known, 4);
+}
+
+TEST_F(TrafficScenario, NonsenseShipTablesKeepTheBridgeRunning) {
+  ASSERT_EQ(Run("traffic_bad_input.txt"), 0) << Err();
+  const json bad = Dump("bad.json");
+  EXPECT_EQ(bad["BridgeActive"], -1);
+  EXPECT_GT(bad["Frame"].get<int>(), 40);
+}
+
+}  // namespace
