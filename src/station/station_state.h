@@ -16,7 +16,6 @@ struct StationState {
   double Reputation = 0;
   Table<Flag, 10> TranslatorOwned{};
   Flag StarLaneKnown = False;
-  std::int32_t StarLaneX = 0, StarLaneY = 0;
 
   // The terminal: its text lines, how many are in use, and what it waits
   // for (0 nothing, 2 the medical question, 501..512 a notice whose OK
@@ -52,8 +51,6 @@ void VisitFields(V& v, StationState& s) {
   v("Reputation", s.Reputation);
   v("TranslatorOwned", s.TranslatorOwned);
   v("StarLaneKnown", s.StarLaneKnown);
-  v("StarLaneX", s.StarLaneX);
-  v("StarLaneY", s.StarLaneY);
   v("TermLine", s.TermLine);
   v("TermLineCount", s.TermLineCount);
   v("TermPrompt", s.TermPrompt);

@@ -97,18 +97,6 @@ void VisitFields(V& v, CrewPostRecord& r) {
   v("SalaryBalance", r.SalaryBalance);
 }
 
-// Research on a fitted slot's component.
-struct UpgradeJobRecord {
-  Flag Upgraded = False;
-  double Progress = 0;
-  double Bonus = 0;
-  Flag Active = False;
-};
-template <class V>
-void VisitFields(V& v, UpgradeJobRecord& r) {
-  v("Upgraded", r.Upgraded); v("Progress", r.Progress); v("Bonus", r.Bonus); v("Active", r.Active);
-}
-
 struct HullRecord {
   std::string Name;
   std::int32_t Price = 0;
