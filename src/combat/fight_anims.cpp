@@ -16,6 +16,7 @@ namespace {
 
 // Frame Int(anim) of a strip of frames side by side.
 void DrawFrame(double anim, int x, int y, int w, int h, const Bitmap& b) {
+  if (!(anim >= 0 && anim < 1000)) throw StatementFailed{};  // no such frame
   const int left = static_cast<int>(Int(anim)) * w;
   SetSrc(left, 0, left + w, h);
   BltFast(x, y, b, true);
@@ -54,7 +55,7 @@ void TextLine(int n, int y) {
     if (cell < 0) return;
     int w = 6;
     // The lower line fades in: a letter is twice its fade value wide.
-    if (n == 2) Skip([&] { w = std::clamp(static_cast<int>(Int(2 * G.PromptFade[2][k])), 0, 6); });
+    if (n == 2) Skip([&] { w = static_cast<int>(Int(std::clamp(2 * G.PromptFade[2][k], 0.0, 6.0))); });
     if (w <= 0) return;
     SetSrc(6 * cell, 0, 6 * cell + w, 6);
     BltFast(125 + 6 * k, y, GFX.FontVsml, true);

@@ -36,7 +36,7 @@ void Letters(int x, int y, std::string_view text, int row) {
 // A bar of indi_large: the empty bar, then `width` of the filled one.
 void LargeBar(int y, double width) {
   Blit(35, y, 0, 0, 65, 15, GFX.FightIndiLarge);
-  const int w = static_cast<int>(std::min(width, 65.0));
+  const int w = static_cast<int>(std::clamp(width, 0.0, 65.0));
   if (w > 0) Blit(35, y, 0, 15, w, 15, GFX.FightIndiLarge);
 }
 
@@ -50,7 +50,7 @@ int GroupPercent(int group) {
     full += ComponentFullHealth(group, G.FittedComp[i][2]);
   }
   if (full == 0) return -1;
-  return static_cast<int>(Int(health / full * 100));
+  return static_cast<int>(Int(std::clamp(health / full * 100, -1.0, 1000.0)));
 }
 
 // The special systems' rows.
@@ -173,10 +173,10 @@ void d_DrawTargets() {
 }
 
 void d_DrawOtherShip() {
-  const int frame = std::clamp(static_cast<int>(Int(std::abs(G.FightRange))), 0, 49);
+  const int frame = static_cast<int>(Int(std::clamp(std::abs(G.FightRange), 0.0, 49.0)));
   Blit(152, 104, frame * 322, 0, 322, 144, GFX.FightOShip);
   G.EnemyFrameIcon += 0.2;
-  if (G.EnemyFrameIcon >= 8) G.EnemyFrameIcon = 0;
+  if (!(G.EnemyFrameIcon >= 0 && G.EnemyFrameIcon < 8)) G.EnemyFrameIcon = 0;
   Blit(565, 55 + static_cast<int>(Int(frame * 6.2)), static_cast<int>(Int(G.EnemyFrameIcon)) * 25, 0, 25, 25,
        GFX.FightEnemyIcon);
 }
