@@ -97,7 +97,8 @@ void d_DrawFightTxt() {
   if (G.SurrenderTimer > 0) both(" ... YOU HAVE SURRENDERED ...", " ... YOU HAVE SURRENDERED ...");
   if (G.AutodestructTimer > 0)
     both(" ... AUTODESTRUCTION SEQUENCE ENGAGED ...", " ... AUTODESTRUCTION SEQUENCE ENGAGED ...");
-  if (G.SurrenderOffered > 0)
+  // A wreck on its way to explode offers nothing: its victory lines stay.
+  if (G.SurrenderOffered > 0 && G.AnimExplosion < 0)
     both(" ... THE OTHER SHIP IS OFFERING HIS SURRENDER! ...", " ... THE OTHER SHIP IS OFFERING HIS SURRENDER! ...");
   TextLine(1, 307);
   TextLine(2, 315);

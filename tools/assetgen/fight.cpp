@@ -54,8 +54,8 @@ void FightBack(Canvas& cv, uint32_t seed) {
   Recess(cr, 560, 52, 36, 338, 2);
   for (int i = 0; i <= 10; ++i) FillRect(cr, 590, 55 + i * 31, 6, 1, kCyanDim);
   Text(cr, "RANGE", 578, 404, 8, kCyan, Align::Center, true, true);
-  Text(cr, "FAR", 578, 48, 7, kCyanDim, Align::Center, true, true);
-  Text(cr, "NEAR", 578, 416, 7, kCyanDim, Align::Center, true, true);
+  Text(cr, "FAR", 578, 48, 7, kCyan, Align::Center, true, true);
+  Text(cr, "NEAR", 578, 416, 7, kCyan, Align::Center, true, true);
   // flee (y 16..25) and self-destruct (y 25..39) over the surrender picture at (18,39)
   Bevel(cr, 18, 15, 92, 11, {0.25, 0.35, 0.30}, 1);
   Text(cr, "FLEE", 64, 24, 8, kGreen, Align::Center, true, true);
