@@ -162,5 +162,17 @@ TEST_F(FightTest, EscapeAndResumeKeepTheFightWhereItStood) {
   EXPECT_EQ(G.EnemyHull, hull);
 }
 
+TEST_F(FightTest, LoadFromTheMenuInMidFightLeavesNoFightClockBehind) {
+  Fight(3);
+  host.Key(27);
+  Frames(1);
+  host.Click(300, BandY(3));
+  Frames(2);
+  EXPECT_EQ(TopScreen(), Screen::Bridge);
+  EXPECT_EQ(G.FightActive, False);
+  EXPECT_EQ(G.Timer2Enabled, False);
+  EXPECT_EQ(G.Timer1Enabled, True);
+}
+
 }  // namespace
 }  // namespace lf::test
