@@ -9,6 +9,11 @@ void d_CheckMouseDown();
 // From the 1000 ms clock: opponent weapon i's shot lands; the opponent fires.
 void d_CheckOpponentWeaponHit(int i);
 void d_OpponentFireWeapon();
+// The game lost in a fight: the fight's clock stops and the fight's flag
+// falls (so that nothing of the fight acts under the death picture and the
+// menu), DeadSlot rises with the value given (a negative value leaves it),
+// and EventHandler takes over.
+void d_LoseGame(int deadValue);
 
 // d_FightLoop (screens.h) runs d_FightLoopBegin once when called (the entry
 // steps: FightActive, the clocks, the opponent, the bitmaps), then

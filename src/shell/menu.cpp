@@ -5,6 +5,7 @@
 #include "display/gfx.h"
 #include "display/screen.h"
 #include "media/media.h"
+#include "shell/clocks.h"
 #include "shell/cursor.h"
 #include "shell/game_state.h"
 #include "shell/saved_games.h"
@@ -51,6 +52,11 @@ void Resume() {
       G.ProgressMode = 1;
       Skip(LoadMainBitmaps);
       G.ProgressMode = 0;
+    }
+    if (G.FightActive == True) {
+      // A fight left by Load gives the clocks back as its end would.
+      StopTimer2();
+      StartTimer1();
     }
     G.FightActive = False;
     G.MenuActive = False;

@@ -2,7 +2,6 @@
 // shots, warning lamps and the three exit countdowns.
 #include "combat/combat_procedures.h"
 #include "shell/clocks.h"
-#include "shell/death.h"
 #include "shell/game_state.h"
 
 namespace lf {
@@ -55,11 +54,7 @@ void CountFlee() {
 
 void CountAutodestruct() {
   if (G.AutodestructTimer > 0) G.AutodestructTimer -= 1;
-  if (G.AutodestructTimer == 1) {
-    G.StatusSlot[DeadSlot].Active = True;
-    G.StatusSlot[DeadSlot].Value = 1;
-    EventHandler();
-  }
+  if (G.AutodestructTimer == 1) d_LoseGame(1);
 }
 
 }  // namespace

@@ -183,4 +183,49 @@ TEST_F(Scenario, BadScriptsAndCommandLinesEndWithStatusTwo) {
   EXPECT_EQ(WEXITSTATUS(raw), 2);
 }
 
+TEST_F(Scenario, AWholeFightFromTheAttackClickToVictoryAndBackToTheBridge) {
+  ASSERT_EQ(Run("fight.txt"), 0) << Bytes("err.txt");
+  const json start = Dump("start.json");
+  EXPECT_EQ(start["FightActive"], -1);
+  EXPECT_EQ(start["FightShip"], 1);
+  EXPECT_EQ(start["FightHullClass"], 3);
+  EXPECT_EQ(start["EnemyHull"], 2501);
+  EXPECT_EQ(start["RaceRelation"][1], 30);  // the fight's cost in relations
+  EXPECT_EQ(start["Timer1Enabled"], 0);
+  EXPECT_EQ(start["Timer2Enabled"], -1);
+  const json calls = start["MediaCalls"];
+  EXPECT_EQ(calls[calls.size() - 2], "sound 2 1");
+  EXPECT_EQ(calls.back(), "track 2");
+
+  // Escape stops the fight's frames, not its clock; Resume goes on from there.
+  const json menu = Dump("menu.json"), resumed = Dump("resumed.json");
+  EXPECT_EQ(menu["MenuActive"], -1);
+  EXPECT_EQ(resumed["MenuActive"], 0);
+  EXPECT_EQ(resumed["FightActive"], -1);
+  EXPECT_EQ(resumed["BridgeActive"], 0);
+  EXPECT_GT(menu["FightRange"].get<double>(), 20.0);  // it closed in on the order
+  EXPECT_NEAR(resumed["FightRange"].get<double>(), menu["FightRange"].get<double>(), 0.1);
+  EXPECT_EQ(resumed["EnemyHull"], menu["EnemyHull"]);
+  EXPECT_EQ(resumed["WeaponRack"], menu["WeaponRack"]);
+
+  const json exploding = Dump("exploding.json");
+  EXPECT_EQ(exploding["RapierMissile"], 0);
+  EXPECT_EQ(exploding["EnemyHull"], 0);
+  EXPECT_GT(exploding["AnimExplosion"].get<double>(), 0.0);
+  EXPECT_EQ(exploding["FightLog"][1], "  .... VICTORY! .... VICTORY! .... VICTORY! ....");
+
+  const json end = Dump("end.json");
+  EXPECT_EQ(end["FightActive"], 0);
+  EXPECT_EQ(end["BridgeActive"], -1);
+  EXPECT_EQ(end["Reputation"], 1120.0);
+  EXPECT_EQ(end["OtherShip"][1]["Free"], -1);
+  EXPECT_EQ(end["Timer1Enabled"], -1);
+  EXPECT_EQ(end["Timer2Enabled"], 0);
+  int wrecks = 0;
+  for (const json& d : end["Debris"]) wrecks += d["Visible"] == -1;
+  EXPECT_EQ(wrecks, 1);
+  EXPECT_NE(Bytes("missile.png"), Bytes("explosion.png"));
+  EXPECT_FALSE(Bytes("end.png").empty());
+}
+
 }  // namespace

@@ -137,10 +137,11 @@ TEST_F(Menu, ResumeReturnsToAStationOrAnEventBeforeAnythingElse) {
 
 TEST_F(Menu, EscapeDuringAFightThenResumeGoesOnWithTheFight) {
   OnBridge();
-  G.WeaponRack[0] = 1;
-  G.WeaponReload[1] = 10;
   Enter(d_FightLoop);
   ASSERT_EQ(G.FightActive, True);
+  ASSERT_EQ(G.WeaponRack[3], 1);  // the beam of slot 1, in reach at touching range
+  G.FightRange = 50;
+  G.WeaponReload[3] = 10;
   Frames(1);
   host.Key(27);
   host.Wait(120);
@@ -149,7 +150,7 @@ TEST_F(Menu, EscapeDuringAFightThenResumeGoesOnWithTheFight) {
   ASSERT_EQ(TopScreen(), Screen::Menu);
   Frames(120);
   // The 1000 ms clock kept ticking behind the menu.
-  EXPECT_EQ(G.WeaponReload[1], 8);
+  EXPECT_EQ(G.WeaponReload[3], 8);
   Calls().clear();
   Frames(1);                                       // the Resume press
   EXPECT_EQ(Calls().front(), "d_CheckMouseDown");  // a menu press reaches the fight first

@@ -11,6 +11,13 @@
 namespace assetgen {
 namespace {
 
+// The five warning lamps: lit in warnings.bmp, dark on the background.
+constexpr const char* kLampNames[] = {"MISSILE", "SHIELD HIT", "SYSTEM HIT", "CREW HIT", "HULL HIT"};
+void Lamp(cairo_t* cr, double x, double y, int i, bool lit) {
+  Bevel(cr, x, y, 95, 29, lit ? Rgb{0.75, 0.12, 0.08} : Rgb{0.18, 0.08, 0.07}, 2);
+  Text(cr, kLampNames[i], x + 47.5, y + 18, 9, lit ? Rgb{1.0, 0.92, 0.7} : Rgb{0.45, 0.25, 0.2}, Align::Center, true, true);
+}
+
 void FightBack(Canvas& cv, uint32_t seed) {
   cairo_t* cr = cv.cr();
   SteelPlate(cr, 0, 0, 640, 480, seed);
@@ -27,37 +34,39 @@ void FightBack(Canvas& cv, uint32_t seed) {
   static constexpr const char* kSystems[] = {"HULL", "SHLD", "GEN", "ENG", "BEAM", "SENS"};
   for (int i = 0; i < 6; ++i) {
     Recess(cr, 35, 69 + 20 * i, 65, 15, 2);
-    Text(cr, kSystems[i], 31, 80 + 20 * i, 7, kAmberDim, Align::Right, true, true);
+    Text(cr, kSystems[i], 32, 80 + 20 * i, 8, kAmber, Align::Right, true, true);
   }
   static constexpr const char* kPosts[] = {"NAV", "COM", "TAC", "MED", "SCI", "ENG"};
   for (int i = 0; i < 6; ++i) {
     Recess(cr, 35, 189 + 20 * i, 65, 15, 2);
-    Text(cr, kPosts[i], 31, 200 + 20 * i, 7, kCyanDim, Align::Right, true, true);
+    Text(cr, kPosts[i], 32, 200 + 20 * i, 8, kCyan, Align::Right, true, true);
   }
   // lamps, specials, weapons, targets, energy
-  Recess(cr, 11, 324, 95, 145, 2);
+  for (int i = 0; i < 5; ++i) Lamp(cr, 11, 324 + 29 * i, i, false);
   Recess(cr, 120, 345, 110, 124, 2);
   Recess(cr, 250, 345, 118, 112, 2);
   Recess(cr, 376, 346, 50, 113, 2);
   Recess(cr, 446, 346, 74, 100, 2);
-  Text(cr, "PWR", 456, 341, 7, kCyanDim, Align::Center, true, true);
-  Text(cr, "WPN", 483, 341, 7, kCyanDim, Align::Center, true, true);
-  Text(cr, "SHD", 510, 341, 7, kCyanDim, Align::Center, true, true);
+  Text(cr, "PWR", 456, 341, 8, kCyan, Align::Center, true, true);
+  Text(cr, "WPN", 483, 341, 8, kCyan, Align::Center, true, true);
+  Text(cr, "SHD", 510, 341, 8, kCyan, Align::Center, true, true);
   // range scale at the right
   Recess(cr, 560, 52, 36, 338, 2);
   for (int i = 0; i <= 10; ++i) FillRect(cr, 590, 55 + i * 31, 6, 1, kCyanDim);
   Text(cr, "RANGE", 578, 404, 8, kCyan, Align::Center, true, true);
+  Text(cr, "FAR", 578, 48, 7, kCyan, Align::Center, true, true);
+  Text(cr, "NEAR", 578, 416, 7, kCyan, Align::Center, true, true);
   // flee (y 16..25) and self-destruct (y 25..39) over the surrender picture at (18,39)
   Bevel(cr, 18, 15, 92, 11, {0.25, 0.35, 0.30}, 1);
   Text(cr, "FLEE", 64, 24, 8, kGreen, Align::Center, true, true);
   Bevel(cr, 18, 26, 92, 13, {0.40, 0.15, 0.12}, 1);
   Text(cr, "SELF-DESTRUCT", 64, 36, 8, {1.0, 0.6, 0.5}, Align::Center, true, true);
   Recess(cr, 18, 39, 90, 9, 2);
-  // range orders: farther (y 429..441) and closer (y above 445), x 535..618
+  // range orders: closer (y 429..441) and farther (y above 445), x 535..618
   Bevel(cr, 536, 429, 82, 13, kSteel, 1);
-  Text(cr, "FARTHER", 577, 439, 8, kAmber, Align::Center, true, true);
+  Text(cr, "CLOSER", 577, 439, 8, kAmber, Align::Center, true, true);
   Bevel(cr, 536, 447, 82, 13, kSteel, 1);
-  Text(cr, "CLOSER", 577, 457, 8, kAmber, Align::Center, true, true);
+  Text(cr, "FARTHER", 577, 457, 8, kAmber, Align::Center, true, true);
   // power transfer: weapons to shields (x 474..494), shields to weapons (x 499..519), y 449..463
   Bevel(cr, 475, 450, 19, 13, kSteel, 1);
   Text(cr, ">", 484.5, 460, 9, kCyan, Align::Center, true, true);
@@ -70,7 +79,8 @@ void OpponentShip(Canvas& cv, int race, int hullClass) {
   cairo_t* cr = cv.cr();
   for (int f = 0; f < 50; ++f) {
     const double x = f * 322;
-    const double scale = 1.0 / (1.0 + f * 0.09);
+    // frame f is closeness f: small at the far limit, filling the frame when touching
+    const double scale = 0.2 + 0.8 * std::pow(f / 49.0, 1.3);
     cairo_save(cr);
     cairo_rectangle(cr, x, 0, 322, 144);
     cairo_clip(cr);
@@ -106,7 +116,8 @@ void ShieldBubble(Canvas& cv, int frames, int fw, int fh, Rgb c) {
 }
 
 void BeamShot(Canvas& cv, int frames, uint32_t seed, Rgb c) {
-  // from the lower left of the frame towards the target at its upper right
+  // from the lower right of the frame (our ship's bay) towards the opponent,
+  // whose middle lies at the frame's upper left (5, 20)
   cairo_t* cr = cv.cr();
   Rng rng(seed);
   const double width = rng.Range(2, 6);
@@ -114,7 +125,7 @@ void BeamShot(Canvas& cv, int frames, uint32_t seed, Rgb c) {
     const double x = f * 200, t = double(f) / 14.0;
     const double reach = std::min(1.0, t);
     const double fade = f < 14 ? 1.0 : std::max(0.0, 1 - (f - 14) / 10.0);
-    const double x0 = x + 5, y0 = 135, x1 = x + 5 + 190 * reach, y1 = 135 - 130 * reach;
+    const double x0 = x + 195, y0 = 137, x1 = x + 195 - 190 * reach, y1 = 137 - 117 * reach;
     for (int k = 3; k >= 0; --k) {
       cairo_set_line_width(cr, width * (1 + k * 1.2));
       SetColor(cr, k == 0 ? kWhite : c, k == 0 ? fade : fade * 0.3);
@@ -122,7 +133,7 @@ void BeamShot(Canvas& cv, int frames, uint32_t seed, Rgb c) {
       cairo_line_to(cr, x1, y1);
       cairo_stroke(cr);
     }
-    if (f >= 12) Fireball(cr, x + 190, 8, 12, std::min(0.9, (f - 11) / 12.0), seed + uint32_t(f));
+    if (f >= 12) Fireball(cr, x + 8, 22, 12, std::min(0.9, (f - 11) / 12.0), seed + uint32_t(f));
   }
 }
 
@@ -130,12 +141,13 @@ void MissileShot(Canvas& cv, int frames, uint32_t seed, Rgb c, double size) {
   cairo_t* cr = cv.cr();
   for (int f = 0; f < frames; ++f) {
     const double x = f * 270, t = double(f) / (frames - 1);
-    // a curve from the lower left to the upper right, shrinking with distance
-    const double px = x + 20 + 230 * t, py = 150 - 120 * t - 40 * std::sin(t * M_PI);
+    // a curve from the lower left to the opponent's middle at (195, 50),
+    // shrinking with distance
+    const double px = x + 15 + 180 * t, py = 160 - 110 * t - 40 * std::sin(t * M_PI);
     const double s = size * (1 - 0.6 * t);
     for (int k = 1; k <= 6; ++k) {
       const double tt = std::max(0.0, t - k * 0.02);
-      const double tx = x + 20 + 230 * tt, ty = 150 - 120 * tt - 40 * std::sin(tt * M_PI);
+      const double tx = x + 15 + 180 * tt, ty = 160 - 110 * tt - 40 * std::sin(tt * M_PI);
       cairo_arc(cr, tx, ty, s * (1 - k * 0.12), 0, 2 * M_PI);
       SetColor(cr, Mix(kAmber, {0.5, 0.5, 0.5}, k / 6.0), 1 - k * 0.14);
       cairo_fill(cr);
@@ -163,11 +175,7 @@ bool DrawFight(const BitmapSpec& spec, Canvas& cv) {
     return true;
   }
   if (n == "warnings.bmp") {
-    static constexpr const char* kLamps[] = {"MISSILE", "SHIELD HIT", "SYSTEM HIT", "CREW HIT", "HULL HIT"};
-    for (int i = 0; i < 5; ++i) {
-      Bevel(cr, 0, i * 29, 95, 29, {0.55, 0.1, 0.08}, 2);
-      Text(cr, kLamps[i], 47.5, i * 29 + 18, 9, {1.0, 0.85, 0.6}, Align::Center, true, true);
-    }
+    for (int i = 0; i < 5; ++i) Lamp(cr, 0, i * 29, i, true);
     return true;
   }
   if (n == "target_butt.bmp") {
