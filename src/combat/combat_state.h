@@ -60,17 +60,8 @@ struct CombatState {
 
   // The text panel: lines 1 and 2 shown, line 3 the message waiting.
   Table<std::string, 3> FightLog{};
-
-  // Special equipment bought at the guilds (and the pirates' stores).
-  Flag CountermeasureRack = False;
-  Flag ComputerVirus = False;
-  Flag VirusProtection = False;
-  Flag ElectronicCM = False;
-  Flag ElectronicCCM = False;
-  Flag RapierMissile = False;
-  Flag DragonIonBeam = False;
-  Flag ShrikeMissile = False;
-  Flag TargetingComputer = False;
+  // The guilds' and the pirates' special equipment the fight reads stands
+  // with the station's record.
 };
 
 template <class V>
@@ -125,15 +116,6 @@ void VisitFields(V& v, CombatState& s) {
   v("AnimExplosion", s.AnimExplosion);
   v("EnemyFrameIcon", s.EnemyFrameIcon);
   v("FightLog", s.FightLog);
-  v("CountermeasureRack", s.CountermeasureRack);
-  v("ComputerVirus", s.ComputerVirus);
-  v("VirusProtection", s.VirusProtection);
-  v("ElectronicCM", s.ElectronicCM);
-  v("ElectronicCCM", s.ElectronicCCM);
-  v("RapierMissile", s.RapierMissile);
-  v("DragonIonBeam", s.DragonIonBeam);
-  v("ShrikeMissile", s.ShrikeMissile);
-  v("TargetingComputer", s.TargetingComputer);
 }
 
 }  // namespace lf
