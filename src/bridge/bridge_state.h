@@ -56,6 +56,7 @@ struct BridgeState {
 
   // Helm, maintenance, hails and science.
   Flag HasLander = False;
+  std::int16_t LanderLoad = 0;
   Flag TradeOpen = False;
   std::int16_t RepairPool = 0;
   Flag ScanRequested = False;
@@ -102,6 +103,7 @@ void VisitFields(V& v, BridgeState& s) {
   v("LifeSupportLevel", s.LifeSupportLevel); v("LifeSupportSetting", s.LifeSupportSetting);
   v("SparePower", s.SparePower);
   v("HasLander", s.HasLander);
+  v("LanderLoad", s.LanderLoad);
   v("TradeOpen", s.TradeOpen);
   v("RepairPool", s.RepairPool);
   v("ScanRequested", s.ScanRequested);

@@ -45,6 +45,7 @@ void DrawStarLanes() {}
 void Butt_1_3() {}
 void Butt_1_7() {}
 void Butt_1_8() {}
+void LanderDeployed() {}
 
 // Communications and ship trade: filled by the comms officer's page.
 void Butt_2_2() {}

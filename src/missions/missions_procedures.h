@@ -7,6 +7,8 @@ namespace lf {
 void DefineMissionSpecs();
 // Progress on the bridge, in every frame the ship can move.
 void CheckPatrolPoint();
+// Progress of kind 1..6 (6: a mission event reached its closing node).
+void CheckMission(int kind);
 // The objectives on the map, and the panel of button (5,4).
 void DrawMissionObjectives();
 void DrawCurrentMissions();

@@ -8,6 +8,7 @@ void DefineMissionSpecs() {}
 
 // Mission lifecycle: filled by the mission progress rules.
 void CheckPatrolPoint() {}
+void CheckMission(int) {}
 void DrawMissionObjectives() {}
 void DrawCurrentMissions() {}
 

@@ -181,4 +181,12 @@ void a_ClearTermScreen() {
   }
 }
 
+void a_AddToLetterCount() {
+  for (int l = 1; l <= 20; ++l) {
+    auto& fade = G.PromptFade[l].Items;
+    for (std::size_t k = 1; k < fade.size(); ++k)
+      if (fade[k - 1] > 0.3) fade[k] = std::min(3.0, fade[k] + 0.3);
+  }
+}
+
 }  // namespace lf
