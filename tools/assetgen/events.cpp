@@ -644,9 +644,9 @@ void Scene(Canvas& cv, int event, int node) {
   if (has("man")) {
     if (has("space")) {
       // The man's message on the ship's screen.
-      FillRect(cr, 372, 52, 196, 216, kSteelDark);
-      Portrait(cr, 380, 60, 180, 200, 1, Hash(uint32_t(event), 44));
       Bevel(cr, 372, 52, 196, 216, kSteel, 2);
+      FillRect(cr, 380, 60, 180, 200, kSteelDark);
+      Portrait(cr, 380, 60, 180, 200, 1, Hash(uint32_t(event), 44));
     } else {
       Figure(cr, 330, groundY + 20, 40, {0.8, 0.75, 0.65});
     }
