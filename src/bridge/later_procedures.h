@@ -12,6 +12,8 @@ void DrawStarLanes();
 void Butt_1_3();
 void Butt_1_7();
 void Butt_1_8();
+// The lander of story event 13 lands: its ore comes aboard.
+void LanderDeployed();
 
 // Communications and ship trade.
 void Butt_2_2();

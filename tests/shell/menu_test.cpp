@@ -128,6 +128,7 @@ TEST_F(Menu, ResumeReturnsToAStationOrAnEventBeforeAnythingElse) {
   EXPECT_EQ(Tracks(3), 1);
 
   G.StatusSlot[DockedSlot].Active = False;
+  G.EventActive = True;  // the event screen ran under the menu
   G.MenuActive = True;
   Enter(DrawMainMenu);
   host.Click(300, BandY(2));
