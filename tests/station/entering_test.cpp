@@ -2,6 +2,8 @@
 // it starts.
 #include <gtest/gtest.h>
 
+#include <cstdio>
+
 #include "display/gfx.h"
 #include "shell/clocks.h"
 #include "station/station_fixture.h"
@@ -28,9 +30,9 @@ TEST_F(Entering, DockingStopsTimeTypesTheArrivalTextAndStartsTheLoop) {
   G.StationActive = False;
   Dock();
   EXPECT_EQ(G.Timer1Enabled, False);
-  const std::string first = G.TermLine[1];
-  EXPECT_EQ(first.rfind("DOCKER V", 0), 0u) << first;
-  EXPECT_EQ(first.substr(first.size() - 5), "D NOW") << first;
+  int major = -1, minor = -1, dims = -1;
+  ASSERT_EQ(std::sscanf(G.TermLine[1].c_str(), "DOCKER V%d.%d %dD NOW", &major, &minor, &dims), 3) << G.TermLine[1];
+  EXPECT_TRUE(major >= 0 && major <= 2 && minor >= 1 && minor <= 500 && dims >= 4 && dims <= 8) << G.TermLine[1];
   EXPECT_EQ(G.TermLine[4], "LOGGIN ONTO STATION MAINFRAME COMPUTER");
   EXPECT_EQ(G.TermLine[8], "KEPT FROM BEFORE");
   EXPECT_EQ(G.TermLineCount, 8);
@@ -44,18 +46,6 @@ TEST_F(Entering, DockingStopsTimeTypesTheArrivalTextAndStartsTheLoop) {
   ASSERT_GE(MediaLog().size(), 2u);
   EXPECT_EQ(MediaLog().front(), Sound(4, 1));
   EXPECT_EQ(MediaLog().back(), (MediaCall{MediaCall::Kind::Track, 3, 0, {}}));
-}
-
-TEST_F(Entering, TheVersionNumbersStayInTheirRanges) {
-  for (int i = 0; i < 200; ++i) {
-    Dock();
-    int major = -1, minor = -1, dims = -1;
-    ASSERT_EQ(std::sscanf(G.TermLine[1].c_str(), "DOCKER V%d.%d %dD NOW", &major, &minor, &dims), 3)
-        << G.TermLine[1];
-    EXPECT_TRUE(major >= 0 && major <= 2) << major;
-    EXPECT_TRUE(minor >= 1 && minor <= 500) << minor;
-    EXPECT_TRUE(dims >= 4 && dims <= 8) << dims;
-  }
 }
 
 TEST_F(Entering, APirateStationDealsThreeServices) {
