@@ -1,5 +1,5 @@
-// The navigator's actions beyond a course: the autopilot list, orbit and its
-// doors, docking clearance, the lander, the tractor beam and the star lane.
+// The navigator's actions beyond a course: the autopilot list, docking
+// clearance, the lander, the tractor beam and the star lane.
 #include <cmath>
 #include <set>
 
@@ -7,8 +7,6 @@
 #include "bridge/later_procedures.h"
 #include "bridge_fixture.h"
 #include "display/gfx.h"
-#include "shell/bridge_frame_steps.h"
-#include "shell/doors.h"
 #include "shell/program.h"
 #include "shell/screens.h"
 #include "shell/prompts.h"
@@ -26,7 +24,6 @@ class HelmActionsTest : public BridgeTest {
     SeedRandom(G.Random, 77);
     G.FreeCargo = 100;
     G.FreeMass = 1000;
-    G.BigDoorPos = 200;  // the doors stand open on space
     for (int race = 1; race <= 7; ++race) G.RaceRelation[race] = 50;
     // Debris and pods far from the ship unless a test brings them close.
     for (int i = 1; i <= 50; ++i) {
@@ -52,11 +49,6 @@ class HelmActionsTest : public BridgeTest {
   static void OpenNavigator() {
     G.PageOpen = {};
     G.PageOpen[1] = 1;
-  }
-
-  // The doors run until the change under way is done.
-  static void RunDoors() {
-    for (int f = 0; f < 1000 && (G.OrbitState == 2 || G.OrbitState == 4); ++f) DrawViewContents();
   }
 
   static std::string Line(int n) { return G.PromptLine[n]; }
@@ -136,31 +128,6 @@ TEST_F(HelmActionsTest, TheListDrawsElevenRowsWithIconsAndAPirateBaseInItsBand) 
   G.AutopilotTop = 400;
   EXPECT_NO_THROW(DrawAutopilotList());
   EXPECT_TRUE(BlitsOf(GFX.FontVsml).empty());
-}
-
-// --- Orbit --------------------------------------------------------------
-
-TEST_F(HelmActionsTest, OrbitRunsTwoThreeFourOneThroughTheDoors) {
-  PlanetRecord& p = Body(1, 2530, 2500);
-  OpenNavigator();
-  CheckDistance();
-  ASSERT_EQ(G.OrbitState, 1);
-  PressButton(1, 5);
-  EXPECT_EQ(G.OrbitState, 2);
-  EXPECT_EQ(Line(2), "ENTERING ORBIT.");
-  RunDoors();
-  EXPECT_EQ(G.OrbitState, 3);
-  EXPECT_DOUBLE_EQ(G.TimeStep, 0.1 / 60);
-  EXPECT_EQ(p.Known, True);
-  EXPECT_EQ(ButtonState(1, 9), 2) << "all stop is grey in orbit";
-
-  PressButton(1, 6);
-  EXPECT_EQ(G.OrbitState, 4);
-  EXPECT_EQ(Line(2), "LEAVING ORBIT.");
-  RunDoors();
-  EXPECT_EQ(G.OrbitState, 1);
-  EXPECT_DOUBLE_EQ(G.TimeStep, 0.1);
-  EXPECT_EQ(G.DestX, G.ShipX);
 }
 
 // --- Docking ------------------------------------------------------------
