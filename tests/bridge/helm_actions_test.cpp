@@ -143,6 +143,13 @@ TEST_F(HelmActionsTest, AStationInOrbitGrantsClearanceAndThePirateBaseOnlyToOutl
   EXPECT_EQ(G.PromptFace, 2);
   EXPECT_EQ(G.StatusSlot[DockedSlot].Active, True);
 
+  // A station with an epidemic keeps its doors shut.
+  G.StatusSlot[DockedSlot].Active = False;
+  G.Planet[1].Epidemic = True;
+  Butt_1_3();
+  EXPECT_EQ(Line(3), " YOU ARE (FOR NOW) FORBIDDEN FROM DOCKING!");
+  EXPECT_EQ(G.StatusSlot[DockedSlot].Active, False);
+
   // The pirate base, straight from space.
   G.StatusSlot[DockedSlot].Active = False;
   Body(1, 2530, 2500, 7, true);
@@ -418,12 +425,15 @@ TEST_F(HelmActionsTest, TheLaneOfTheFourthQuadrantEndsTheProgramCleanly) {
     G.StarLaneKnown = True;
     G.StarLaneX = 2500;
     G.StarLaneY = 2519;
+    ClearMediaLog();
     try {
       EnteringStarlane();
       ADD_FAILURE() << "quadrant " << q << " did not end the program";
     } catch (const ProgramEnd& end) {
       EXPECT_EQ(end.status, 0);
     }
+    ASSERT_GE(MediaLog().size(), 3u);
+    EXPECT_EQ(MediaLog()[1].file, "anim/end.mpg") << "after the music stops";
     EXPECT_EQ(G.StarLaneKnown, False);
   }
   G.StarLaneKnown = True;
