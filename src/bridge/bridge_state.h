@@ -57,12 +57,12 @@ struct BridgeState {
   // Helm, maintenance, hails and science.
   Flag HasLander = False;
   Flag TradeOpen = False;
-  // The hail menu's lines of this frame, and what the hailed trader offers.
-  Table<std::string, 30> HailLine{};
-  Table<std::int16_t, 14> ShipOffer{};
   std::int16_t RepairPool = 0;
   Flag ScanRequested = False;
   Table<std::int16_t, 7> RaceRelation{};
+  // The hail menu's lines of this frame, and what the hailed trader offers.
+  Table<std::string, 30> HailLine{};
+  Table<std::int16_t, 14> ShipOffer{};
 
   // Animation frames of the sector view.
   double ShipFrame = 0;
@@ -115,11 +115,11 @@ void VisitFields(V& v, BridgeState& s) {
   v("SparePower", s.SparePower);
   v("HasLander", s.HasLander);
   v("TradeOpen", s.TradeOpen);
-  v("HailLine", s.HailLine);
-  v("ShipOffer", s.ShipOffer);
   v("RepairPool", s.RepairPool);
   v("ScanRequested", s.ScanRequested);
   v("RaceRelation", s.RaceRelation);
+  v("HailLine", s.HailLine);
+  v("ShipOffer", s.ShipOffer);
   v("ShipFrame", s.ShipFrame);
   v("DestMarkerFrame", s.DestMarkerFrame);
   v("SensorRingFrame", s.SensorRingFrame);
