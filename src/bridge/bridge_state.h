@@ -79,6 +79,8 @@ struct BridgeState {
   // The medical officer's effort and its shares by crew post.
   std::int16_t MedicalPool = 0;
   Table<std::int16_t, 6> TreatmentAlloc{};
+  // A virus may spread on the next even day.
+  Flag VirusSpreadArmed = False;
 };
 
 template <class V>
@@ -118,6 +120,7 @@ void VisitFields(V& v, BridgeState& s) {
   v("FightShip", s.FightShip);
   v("MedicalPool", s.MedicalPool);
   v("TreatmentAlloc", s.TreatmentAlloc);
+  v("VirusSpreadArmed", s.VirusSpreadArmed);
 }
 
 }  // namespace lf

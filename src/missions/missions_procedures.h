@@ -10,5 +10,8 @@ void CheckPatrolPoint();
 // The objectives on the map, and the panel of button (5,4).
 void DrawMissionObjectives();
 void DrawCurrentMissions();
+// Told of what the ship has done: 2 a body scanned, 3 an asteroid field,
+// 4 a nebula, 5 a scan from orbit.
+void CheckMission(int n);
 
 }  // namespace lf

@@ -10,5 +10,6 @@ void DefineMissionSpecs() {}
 void CheckPatrolPoint() {}
 void DrawMissionObjectives() {}
 void DrawCurrentMissions() {}
+void CheckMission(int) {}
 
 }  // namespace lf

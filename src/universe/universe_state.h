@@ -85,6 +85,18 @@ void VisitFields(V& v, CrewPostRecord& r) {
   v("SalaryBalance", r.SalaryBalance);
 }
 
+// Research on a fitted slot's component.
+struct UpgradeJobRecord {
+  Flag Upgraded = False;
+  double Progress = 0;
+  double Bonus = 0;
+  Flag Active = False;
+};
+template <class V>
+void VisitFields(V& v, UpgradeJobRecord& r) {
+  v("Upgraded", r.Upgraded); v("Progress", r.Progress); v("Bonus", r.Bonus); v("Active", r.Active);
+}
+
 struct HullRecord {
   std::string Name;
   std::int32_t Price = 0;
@@ -167,6 +179,7 @@ struct UniverseState {
   Table<double, 20> FittedHealth{};
   Table<std::int16_t, 20> AmmoLeft{};
   Table<std::int16_t, 20> RepairCrew{};
+  Table<UpgradeJobRecord, 20> UpgradeJob{};
   Table<Table<std::int16_t, 2>, 4> UnfittedComp{};
 
   // Commodities: base prices and the hold.
@@ -230,6 +243,7 @@ void VisitFields(V& v, UniverseState& s) {
   v("FittedHealth", s.FittedHealth);
   v("AmmoLeft", s.AmmoLeft);
   v("RepairCrew", s.RepairCrew);
+  v("UpgradeJob", s.UpgradeJob);
   v("UnfittedComp", s.UnfittedComp);
   v("BasePrice", s.BasePrice);
   v("Cargo", s.Cargo);
