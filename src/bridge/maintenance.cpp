@@ -108,7 +108,7 @@ void DrawMaintnanceList() {
       const std::string value = std::to_string(percent) + "%";
       // A long name stops a letter short of the percentage.
       const int room = (107 - 6 * CodePointCount(value)) / 6;
-      DrawSmallText(385, y + 1, Truncated(ComponentName(group, SlotModel(i)), room), band);
+      DrawSmallText(385, y + 1, Truncated(ComponentLabel(group, SlotModel(i)), room), band);
       DrawSmallRight(504, y + 1, value, band);
     });
   }
@@ -157,7 +157,7 @@ void DrawUnfitted() {
     const int group = G.UnfittedComp[i][1];
     if (group == 0) continue;
     const int y = 286 + 7 * i;
-    DrawSmallText(380, y, ComponentName(group, G.UnfittedComp[i][2]));
+    DrawSmallText(380, y, ComponentLabel(group, G.UnfittedComp[i][2]));
     SetSrc(0, 0, 9, 6);
     BltFast(499, y, GFX.JobArrow[2], true);
   }

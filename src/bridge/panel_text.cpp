@@ -1,13 +1,13 @@
 #include "bridge/panel_text.h"
 
 #include <cctype>
+#include <type_traits>
 
 #include "bridge/bridge_helpers.h"
 #include "display/gfx.h"
 #include "display/screen.h"
 #include "display/text_set.h"
 #include "shell/game_state.h"
-#include "universe/catalogue.h"
 
 namespace lf {
 
@@ -34,10 +34,10 @@ void DrawShareBar(int x, int y, double value) {
   BltFast(x, y, GFX.MaintSlider, true);
 }
 
-std::string Truncated(std::string_view text, int letters) {
+std::string_view Truncated(std::string_view text, int letters) {
   std::size_t i = 0;
   for (int k = 0; k < letters && i < text.size(); ++k) NextCodePoint(text, i);
-  return std::string(text.substr(0, i));
+  return text.substr(0, i);
 }
 
 std::string Capitals(std::string_view text) {
@@ -46,6 +46,13 @@ std::string Capitals(std::string_view text) {
   return out;
 }
 
-std::string ComponentName(int group, int model) { return Capitals(ComponentText(group, model, 1)); }
+std::string ComponentName(int group, int model) { return Capitals(ComponentLabel(group, model)); }
+
+std::string_view ComponentLabel(int group, int model) {
+  using Groups = decltype(G.ComponentTable);
+  using Models = std::remove_reference_t<decltype(G.ComponentTable[0])>;
+  if (!Groups::InBounds(group) || !Models::InBounds(model)) return {};
+  return G.ComponentTable[group][model][1];
+}
 
 }  // namespace lf

@@ -22,10 +22,13 @@ void DrawSmallCentred(int centre, int y, std::string_view text, int band = kBand
 void DrawShareBar(int x, int y, double value);
 
 // The first `letters` characters of a text.
-std::string Truncated(std::string_view text, int letters);
+std::string_view Truncated(std::string_view text, int letters);
 // ASCII letters in capitals.
 std::string Capitals(std::string_view text);
 // The name of a component of the catalogue in capitals ("" for none).
 std::string ComponentName(int group, int model);
+// The same name as the catalogue holds it, for the fonts, which draw
+// letters in capitals whatever their case ("" for none).
+std::string_view ComponentLabel(int group, int model);
 
 }  // namespace lf

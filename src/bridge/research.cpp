@@ -86,7 +86,7 @@ void DrawResearchList() {
       band = kBandGreyed;
     else if (job.Active == True)
       band = kBandActive;
-    DrawSmallText(385, y + 1, Truncated(ComponentName(group, SlotModel(i)), 16), band);  // before the icon
+    DrawSmallText(385, y + 1, Truncated(ComponentLabel(group, SlotModel(i)), 16), band);  // before the icon
     int icon = 30;
     if (done)
       icon = 45;
