@@ -136,6 +136,24 @@ TEST_F(CrewHealthTest, QuarantineStopsTheVirusAndTheTreatmentAndTheCureNeedsNoDo
   EXPECT_EQ(G.CrewPost[1].Infected, True) << "too weak to be treated";
 }
 
+TEST_F(CrewHealthTest, AtDeathsDoorTheFaceGoesToTheComputerAndTheSkillIsLostForGood) {
+  Man(5, 4, 2.5);
+  DrawFaces();
+  EXPECT_EQ(BlitsOf(GFX.CharacterFace[15]).size(), 1u);
+  G.LifeSupportLevel = 99;
+  Frames(25);  // 0.02 a frame: 2.0 at the end
+  DrawFaces();
+  EXPECT_EQ(BlitsOf(GFX.ComputerFace[5]).size(), 1u);
+  EXPECT_EQ(G.Character[15].Skill, 1);
+  G.LifeSupportLevel = 100;
+  G.TreatmentAlloc[5] = 100;
+  Frames(100);
+  DrawFaces();
+  EXPECT_GT(G.CrewPost[5].Health, 50);
+  EXPECT_EQ(BlitsOf(GFX.CharacterFace[15]).size(), 2u) << "the face comes back";
+  EXPECT_EQ(G.Character[15].Skill, 1) << "the skill does not";
+}
+
 TEST_F(CrewHealthTest, TheQuarantineListShowsItsButtonsBySkill) {
   Man(3, 3);
   G.CrewPost[3].Infected = True;
