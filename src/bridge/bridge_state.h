@@ -81,6 +81,9 @@ struct BridgeState {
   Table<std::int16_t, 6> TreatmentAlloc{};
   // A virus may spread on the next even day.
   Flag VirusSpreadArmed = False;
+
+  // The star lane's place.
+  std::int32_t StarLaneX = 0, StarLaneY = 0;
 };
 
 template <class V>
@@ -121,6 +124,8 @@ void VisitFields(V& v, BridgeState& s) {
   v("MedicalPool", s.MedicalPool);
   v("TreatmentAlloc", s.TreatmentAlloc);
   v("VirusSpreadArmed", s.VirusSpreadArmed);
+  v("StarLaneX", s.StarLaneX);
+  v("StarLaneY", s.StarLaneY);
 }
 
 }  // namespace lf

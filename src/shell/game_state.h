@@ -10,6 +10,8 @@
 #include "media/media_state.h"
 #include "missions/missions_state.h"
 #include "shell/shell_state.h"
+#include "station/dealer_state.h"
+#include "station/lounge_state.h"
 #include "station/station_state.h"
 #include "universe/universe_state.h"
 
@@ -21,6 +23,8 @@ struct Game : ShellState,
               UniverseState,
               BridgeState,
               StationState,
+              DealerState,
+              LoungeState,
               MissionsState,
               EventsState,
               CombatState {};
@@ -34,6 +38,8 @@ void VisitFields(V& v, Game& g) {
   VisitFields(v, static_cast<UniverseState&>(g));
   VisitFields(v, static_cast<BridgeState&>(g));
   VisitFields(v, static_cast<StationState&>(g));
+  VisitFields(v, static_cast<DealerState&>(g));
+  VisitFields(v, static_cast<LoungeState&>(g));
   VisitFields(v, static_cast<MissionsState&>(g));
   VisitFields(v, static_cast<EventsState&>(g));
   VisitFields(v, static_cast<CombatState&>(g));

@@ -1,8 +1,10 @@
 // The station's share of the Game record: money, reputation, the fleet
-// office's holdings, the loan and the guilds' special equipment.
+// office's holdings and the loan, the terminal and its prompt, the service
+// menu, the owned special goods, and the selections of the station screens.
 #pragma once
 
 #include <cstdint>
+#include <string>
 
 #include "shell/numeric.h"
 #include "shell/table.h"
@@ -15,9 +17,35 @@ struct StationState {
   Table<Flag, 10> TranslatorOwned{};
   Flag StarLaneKnown = False;
 
-  // The fleet office: star charts, the star lane's position, the loan.
+  // The terminal: its text lines, how many are in use, and what it waits
+  // for (0 nothing, 2 the medical question, 501..512 a notice whose OK
+  // takes the next step).
+  Table<std::string, 50> TermLine{};
+  std::int16_t TermLineCount = 0;
+  std::int16_t TermPrompt = 0;
+  // The welcome has been reached: the service menu answers.
+  Flag ServiceMenuOpen = False;
+  // Set as a departure starts; a departure check that refuses clears it.
+  Flag MayDepart = False;
+  // The service menu, empty from the first free line on.
+  Table<std::string, 10> StationService{};
+  // A menu line is under the cursor; the map marker's frame 0 up to 7.
+  Flag ServiceMarkerOn = False;
+  double ServiceMarkerFrame = 0;
+
+  // Special goods of the pirates' offer that the station checks.
+  Flag BlackDecoder = False;
+  Flag SecretCargo = False;
+
+  // Selections of the screens behind the terminal. ServicePage is shared
+  // by the lounge, the fleet office and the guilds.
+  std::int16_t ServicePage = 0;
+  std::int16_t LoungeSelection = 0;
+  std::int16_t DealerGroup = 0;
+  std::int16_t DealerSelection = 0;
+
+  // The fleet office: star charts and the loan.
   Flag ChartBought = False;
-  std::int32_t StarLaneX = 0, StarLaneY = 0;
   Flag LoanActive = False;
   std::int16_t LoanMonthsLeft = 0;
   double LoanDue = 0;
@@ -26,11 +54,11 @@ struct StationState {
   // The day of the month of the last news change.
   std::int16_t NewsDay = 0;
 
-  // Special equipment, one flag an item.
-  Flag BlackDecoder = False, SecretCargo = False, CountermeasureRack = False;
-  Flag ComputerVirus = False, ExtraCargoContainer = False, VirusProtection = False;
-  Flag AutoRepairUnit = False, ElectronicCM = False, ElectronicCCM = False;
-  Flag RapierMissile = False, DragonIonBeam = False, ShrikeMissile = False;
+  // The guilds' special equipment, one flag an item (the pirates' three
+  // goods stand with the station's checks and the lounge).
+  Flag CountermeasureRack = False, ComputerVirus = False, ExtraCargoContainer = False;
+  Flag VirusProtection = False, AutoRepairUnit = False, ElectronicCM = False;
+  Flag ElectronicCCM = False, RapierMissile = False, DragonIonBeam = False;
   Flag TargetingComputer = False;
 };
 
@@ -40,20 +68,31 @@ void VisitFields(V& v, StationState& s) {
   v("Reputation", s.Reputation);
   v("TranslatorOwned", s.TranslatorOwned);
   v("StarLaneKnown", s.StarLaneKnown);
+  v("TermLine", s.TermLine);
+  v("TermLineCount", s.TermLineCount);
+  v("TermPrompt", s.TermPrompt);
+  v("ServiceMenuOpen", s.ServiceMenuOpen);
+  v("MayDepart", s.MayDepart);
+  v("StationService", s.StationService);
+  v("ServiceMarkerOn", s.ServiceMarkerOn);
+  v("ServiceMarkerFrame", s.ServiceMarkerFrame);
+  v("BlackDecoder", s.BlackDecoder);
+  v("SecretCargo", s.SecretCargo);
+  v("ServicePage", s.ServicePage);
+  v("LoungeSelection", s.LoungeSelection);
+  v("DealerGroup", s.DealerGroup);
+  v("DealerSelection", s.DealerSelection);
   v("ChartBought", s.ChartBought);
-  v("StarLaneX", s.StarLaneX); v("StarLaneY", s.StarLaneY);
   v("LoanActive", s.LoanActive);
   v("LoanMonthsLeft", s.LoanMonthsLeft);
   v("LoanDue", s.LoanDue);
   v("LoanMonthMarked", s.LoanMonthMarked);
   v("NewsDay", s.NewsDay);
-  v("BlackDecoder", s.BlackDecoder); v("SecretCargo", s.SecretCargo);
   v("CountermeasureRack", s.CountermeasureRack); v("ComputerVirus", s.ComputerVirus);
   v("ExtraCargoContainer", s.ExtraCargoContainer); v("VirusProtection", s.VirusProtection);
   v("AutoRepairUnit", s.AutoRepairUnit); v("ElectronicCM", s.ElectronicCM);
   v("ElectronicCCM", s.ElectronicCCM); v("RapierMissile", s.RapierMissile);
-  v("DragonIonBeam", s.DragonIonBeam); v("ShrikeMissile", s.ShrikeMissile);
-  v("TargetingComputer", s.TargetingComputer);
+  v("DragonIonBeam", s.DragonIonBeam); v("TargetingComputer", s.TargetingComputer);
 }
 
 }  // namespace lf

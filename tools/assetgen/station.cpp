@@ -19,6 +19,60 @@ void Frame(cairo_t* cr, double x, double y, double w, double h, Rgb c) {
   cairo_stroke(cr);
 }
 
+// The terminal's map of the station of quadrant q: a hub and seven modules
+// where the game blinks its marker over the service under the cursor
+// (marker positions by quadrant, the marker 60x45 for the exchange and the
+// dealer, 40x30 for the others).
+void StationMap(cairo_t* cr, int q) {
+  struct Module { int x[4], y[4]; bool big; };
+  static constexpr Module kModules[7] = {
+      {{62, 110, 30, 70}, {140, 160, 220, 200}, false},     // lounge
+      {{140, 180, 70, 130}, {117, 170, 240, 260}, true},    // exchange
+      {{250, 150, 150, 40}, {144, 230, 230, 140}, true},    // dealer
+      {{143, 70, 230, 230}, {100, 240, 230, 220}, false},   // fleet office
+      {{90, 100, 100, 160}, {260, 280, 160, 190}, false},   // exploration
+      {{210, 150, 200, 130}, {240, 300, 160, 150}, false},  // merchant
+      {{148, 200, 150, 240}, {264, 250, 290, 290}, false},  // mercenary
+  };
+  const int k = (q - 1) % 4;
+  // A faint schematic grid.
+  for (int x = 30; x < 340; x += 20) FillRect(cr, x, 90, 1, 296, {0.05, 0.12, 0.14});
+  for (int y = 100; y < 386; y += 20) FillRect(cr, 22, y, 316, 1, {0.05, 0.12, 0.14});
+  double hx = 0, hy = 0;
+  for (const Module& m : kModules) {
+    hx += m.x[k] + (m.big ? 30 : 20);
+    hy += m.y[k] + (m.big ? 22 : 15);
+  }
+  hx /= 7;
+  hy /= 7;
+  cairo_set_line_cap(cr, CAIRO_LINE_CAP_ROUND);
+  for (const Module& m : kModules) {
+    const double cx = m.x[k] + (m.big ? 30 : 20), cy = m.y[k] + (m.big ? 22 : 15);
+    cairo_set_line_width(cr, 7);
+    SetColor(cr, kSteel);
+    cairo_move_to(cr, hx, hy);
+    cairo_line_to(cr, cx, cy);
+    cairo_stroke(cr);
+    cairo_set_line_width(cr, 1);
+    SetColor(cr, kCyanDim);
+    cairo_move_to(cr, hx, hy);
+    cairo_line_to(cr, cx, cy);
+    cairo_stroke(cr);
+  }
+  for (const Module& m : kModules) {
+    const double w = m.big ? 30 : 22, h = m.big ? 22 : 16;
+    const double cx = m.x[k] + (m.big ? 30 : 20), cy = m.y[k] + (m.big ? 22 : 15);
+    Bevel(cr, cx - w / 2, cy - h / 2, w, h, kSteelLight, 2);
+    FillRect(cr, cx - w / 2 + 4, cy - 1.5, w - 8, 3, kCyan, 0.8);
+  }
+  cairo_arc(cr, hx, hy, 16, 0, 2 * M_PI);
+  SetColor(cr, kSteelLight);
+  cairo_fill(cr);
+  cairo_arc(cr, hx, hy, 7, 0, 2 * M_PI);
+  SetColor(cr, kCyan);
+  cairo_fill(cr);
+}
+
 void StationScreen(Canvas& cv, std::string_view name, uint32_t seed) {
   cairo_t* cr = cv.cr();
   SteelPlate(cr, 0, 0, 640, 480, seed);
@@ -32,21 +86,45 @@ void StationScreen(Canvas& cv, std::string_view name, uint32_t seed) {
   if (name == "mercenary") title = "MERCENARY GUILD";
   Text(cr, title, 320, 18, 12, kAmber, Align::Center, true, true);
   if (StartsWith(name, "terminal")) {
-    Frame(cr, 20, 30, 320, 300, kCyan);           // station map
-    StationShape(cr, 180, 180, 120, 0.2, (NumberAfter(name, "terminal_") - 1) % 4 + 1);
-    Frame(cr, 350, 30, 250, 170, kCyan);          // log-on text
-    Frame(cr, 360, 200, 240, 205, kAmber);        // services
+    // The game writes "WELCOME TO" and the station's name above the map at
+    // y 40..76, types its text centred on y 120 from x 366, lists the
+    // services right-aligned at x 593 from y 208, shows the chosen
+    // service's picture at (484, 338), its answer buttons at x 605..640,
+    // y 103..169, and leaves the station through x 39..293, y 396..440.
+    Frame(cr, 20, 88, 320, 300, kCyan);           // station map
+    StationMap(cr, NumberAfter(name, "terminal_"));
+    Frame(cr, 354, 54, 248, 134, kCyan);          // log-on text
+    Text(cr, "STATION MAINFRAME", 478, 47, 8, Scale(kCyan, 0.75), Align::Center, true, true);
+    Frame(cr, 364, 200, 242, 132, kAmber);        // services
     Frame(cr, 484, 338, 100, 100, kAmber);        // service picture
-    Frame(cr, 606, 100, 30, 72, kCyan);           // yes / no
+    Frame(cr, 606, 100, 32, 72, kCyan);           // yes / no, OK
+    Bevel(cr, 40, 397, 252, 42, kSteel, 2);       // the way out
+    Text(cr, "DEPART STATION", 166, 424, 13, kAmber, Align::Center, true, true);
   } else if (name == "commodity") {
+    // Rows of 19 from y 113; the game writes the stock right-aligned at
+    // 74, what the station pays at 199, the name centred on 320, what it
+    // asks at 458 and the hold at 588. The buttons: sell ten x 98..117,
+    // sell one 125..139, buy one 494..508, buy ten 516..535.
     Frame(cr, 10, 110, 620, 276, kCyan);
-    for (int i = 0; i < 14; ++i) FillRect(cr, 12, 113 + 19 * i + 18, 616, 1, {0.1, 0.25, 0.3});
-    for (double x : {98.0, 125.0, 494.0, 516.0}) FillRect(cr, x, 112, 1, 272, {0.1, 0.25, 0.3});
-    Text(cr, "STOCK", 40, 100, 9, kCyanDim, Align::Center, true, true);
-    Text(cr, "SELL", 170, 100, 9, kCyanDim, Align::Center, true, true);
-    Text(cr, "GOODS", 320, 100, 9, kCyanDim, Align::Center, true, true);
-    Text(cr, "BUY", 430, 100, 9, kCyanDim, Align::Center, true, true);
-    Text(cr, "CARGO", 560, 100, 9, kCyanDim, Align::Center, true, true);
+    for (int i = 0; i < 14; ++i) {
+      const double top = 113 + 19 * i;
+      if (i % 2 == 1) FillRect(cr, 12, top + 1, 616, 18, {0.05, 0.09, 0.11});
+      struct Button { double x, w; const char* label; Rgb c; };
+      for (const Button& b : {Button{99, 18, "10", kAmber}, Button{126, 13, "1", kAmber},
+                              Button{495, 13, "1", kGreen}, Button{517, 18, "10", kGreen}}) {
+        Bevel(cr, b.x, top + 3, b.w, 15, kSteel, 1);
+        Text(cr, b.label, b.x + b.w / 2, top + 14, 7, Scale(b.c, 0.85), Align::Center, true, true);
+      }
+    }
+    Text(cr, "STOCK", 52, 104, 9, Scale(kCyan, 0.75), Align::Center, true, true);
+    Text(cr, "SELL", 118, 104, 9, Scale(kAmber, 0.8), Align::Center, true, true);
+    Text(cr, "PAYS", 186, 104, 9, Scale(kCyan, 0.75), Align::Center, true, true);
+    Text(cr, "GOODS", 320, 104, 9, Scale(kCyan, 0.75), Align::Center, true, true);
+    Text(cr, "ASKS", 445, 104, 9, Scale(kCyan, 0.75), Align::Center, true, true);
+    Text(cr, "BUY", 515, 104, 9, Scale(kGreen, 0.75), Align::Center, true, true);
+    Text(cr, "HOLD", 575, 104, 9, Scale(kCyan, 0.75), Align::Center, true, true);
+    Text(cr, "CREDITS", 58, 418, 8, Scale(kAmber, 0.8), Align::Center, true, true);
+    Text(cr, "FREE HOLD", 185, 418, 8, Scale(kAmber, 0.8), Align::Center, true, true);
     Frame(cr, 10, 424, 220, 34, kAmber);
     Frame(cr, 505, 424, 109, 34, kAmber);
     Text(cr, "EXIT", 560, 446, 12, kAmber, Align::Center);
