@@ -7,6 +7,7 @@
 #include "bridge/calendar.h"
 #include "bridge_fixture.h"
 #include "display/gfx.h"
+#include "station/station_procedures.h"
 
 namespace lf::test {
 namespace {
@@ -76,6 +77,22 @@ TEST_F(CalendarTest, SalariesFallDueOnTheThirtyFirstAndArePaidOnTheFirstUntilCas
   G.Cash = 1000;
   At(1416.5);
   EXPECT_EQ(G.Cash, 1000);
+}
+
+TEST_F(CalendarTest, AThirdUnpaidMonthSendsTheOfficerAwayAtTheNextStation) {
+  Man(2, 500);
+  Man(3, 100);
+  G.CrewPost[2].SalaryBalance = 2;
+  G.CrewPost[3].SalaryBalance = 2;
+  G.Cash = 100;
+  At(8000);  // 31 NOV
+  At(8017);  // 1 DEC: the communicator cannot be paid
+  At(8017);  // the next frame: the tactician can
+  EXPECT_EQ(G.CrewPost[2].SalaryBalance, 3);
+  EXPECT_EQ(G.CrewPost[3].SalaryBalance, 1);
+  a_SallaryCheck();
+  EXPECT_EQ(G.CrewPost[2].Person, 0);
+  EXPECT_EQ(G.CrewPost[3].Person, 13);
 }
 
 TEST_F(CalendarTest, TheLoanIsCountedOnceAMonth) {
