@@ -1,6 +1,6 @@
 // The calendar: dates by the month table, salaries due after a 31st and paid
 // on the first, the loan counted once a month, the virus spreading every
-// other day, shipboard incidents, and the status panel.
+// other day, and shipboard incidents.
 #include <cmath>
 #include <limits>
 
@@ -195,23 +195,6 @@ TEST_F(CalendarTest, AMalfunctionSparesGeneratorsAndWeakComponents) {
   EXPECT_LT(G.FittedHealth[5], 72);
   EXPECT_EQ(G.PromptLine[1], "CAPTAIN! OUR HUMAN LASER CANNON");
   EXPECT_EQ(G.PromptLine[3], "WORKING ON LIMITED CAPACITY!");
-}
-
-TEST_F(CalendarTest, TheStatusPanelCountsTheFitAndTheHull) {
-  G.Cash = 12345.9;
-  G.HullPoints = 250;
-  auto letters = [](int y) {
-    int n = 0;
-    for (const BlitRecord& b : BlitsOf(GFX.FontVsml)) n += b.y == y;
-    return n;
-  };
-  DrawShipStatus();
-  EXPECT_EQ(letters(308), 6) << "12345 and the credit sign";
-  EXPECT_EQ(letters(354), 11) << "5/6  HULL: 50%";
-  RecordedBlits().clear();
-  G.HullPointsMax = 0;
-  EXPECT_NO_THROW(DrawShipStatus());
-  EXPECT_EQ(letters(354), 0);
 }
 
 }  // namespace

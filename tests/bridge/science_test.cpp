@@ -1,6 +1,6 @@
 // The science officer's page: research chosen by its icon, advancing by the
 // officer's skill and decided by one draw; the scanner on bodies, nebulas,
-// asteroid fields and objects; the software list.
+// asteroid fields and objects.
 #include "bridge/later_procedures.h"
 #include "bridge_fixture.h"
 #include "display/gfx.h"
@@ -159,25 +159,6 @@ TEST_F(ScienceTest, NebulasAsteroidsAndObjects) {
   G.Debris[9] = {};
   PressButton(5, 1);
   EXPECT_EQ(G.PromptLine[2], "NO OBJECT TO SCAN!");
-}
-
-TEST_F(ScienceTest, TheSoftwareListShowsWhatIsOwnedInOrder) {
-  G.TranslatorOwned[1] = True;
-  G.TranslatorOwned[7] = True;  // pirates: no line of their own
-  G.StarLaneKnown = True;
-  G.StarLaneX = 4321;
-  G.StarLaneY = 199;
-  G.VirusProtection = True;
-  DrawSoftwareOnBoard();
-  int rows[4] = {};
-  for (const BlitRecord& b : BlitsOf(GFX.FontVsml)) {
-    const int r = (b.y - 286) / 7;
-    if (r >= 0 && r < 4) ++rows[r];
-  }
-  EXPECT_EQ(rows[0], 15) << "HUMAN TRANSLATOR";
-  EXPECT_EQ(rows[1], 14) << "STARLANE (43,1)";
-  EXPECT_EQ(rows[2], 14) << "VIRUS PROTECTOR";
-  EXPECT_EQ(rows[3], 0);
 }
 
 }  // namespace
