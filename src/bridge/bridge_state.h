@@ -85,6 +85,8 @@ struct BridgeState {
   // The medical officer's effort and its shares by crew post.
   std::int16_t MedicalPool = 0;
   Table<std::int16_t, 6> TreatmentAlloc{};
+  // A virus may spread on the next even day.
+  Flag VirusSpreadArmed = False;
 
   // Ore brought up by the last lander; the star lane's place and its
   // animation frame.
@@ -134,6 +136,7 @@ void VisitFields(V& v, BridgeState& s) {
   v("FightShip", s.FightShip);
   v("MedicalPool", s.MedicalPool);
   v("TreatmentAlloc", s.TreatmentAlloc);
+  v("VirusSpreadArmed", s.VirusSpreadArmed);
   v("LanderLoad", s.LanderLoad);
   v("StarLaneX", s.StarLaneX);
   v("StarLaneY", s.StarLaneY);

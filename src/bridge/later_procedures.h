@@ -21,8 +21,9 @@ void Butt_2_4();
 void CheckHailSel();
 void CheckTradeSel();
 
-// Crew health.
+// Crew health: the medical scanner.
 void Butt_4_2();
+void CheckVirus();
 
 // Science and missions.
 void Butt_5_1();

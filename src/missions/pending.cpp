@@ -11,5 +11,6 @@ void CheckPatrolPoint() {}
 void CheckMission(int) {}
 void DrawMissionObjectives() {}
 void DrawCurrentMissions() {}
+void CheckMission(int) {}
 
 }  // namespace lf
