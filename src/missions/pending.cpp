@@ -11,6 +11,5 @@ void CheckPatrolPoint() {}
 void CheckMission(int) {}
 void DrawMissionObjectives() {}
 void DrawCurrentMissions() {}
-void CheckMission(int) {}
 
 }  // namespace lf
