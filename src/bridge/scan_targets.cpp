@@ -7,15 +7,6 @@
 
 namespace lf {
 
-namespace {
-
-bool Near(double x, double y) { return std::hypot(G.ShipX - x, G.ShipY - y) < 20; }
-
-}  // namespace
-
-bool NearDebris(int k) { return Near(G.Debris[k].X, G.Debris[k].Y); }
-bool NearPod(int k) { return Near(G.CargoPod[k].X, G.CargoPod[k].Y); }
-
 int BodyNearShip() {
   int found = 0;
   const int last = std::clamp<int>(G.PlanetCount, 0, decltype(G.Planet)::kHi);

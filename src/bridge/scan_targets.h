@@ -2,11 +2,11 @@
 // body the ship is near.
 #pragma once
 
+// Debris or pods under 20 units from the ship: NearDebris, NearPod.
+#include "bridge/helm_reach.h"
+
 namespace lf {
 
-// Debris or pod k (1..50) lies under 20 units from the ship.
-bool NearDebris(int k);
-bool NearPod(int k);
 // The last body, in table order, whose width is more than its distance
 // from the ship; 0 when the ship is near none.
 int BodyNearShip();
