@@ -45,6 +45,8 @@ void Docked(int page) {
   lf::G.ProgressMode = 0;
   lf::UnloadMainBitmaps();
   lf::a_LoadStationBitmaps();
+  lf::GFX.StationFontOcr.KeepPlainRows();  // as docking leaves them
+  lf::GFX.StationFontImp.KeepPlainRows();
   lf::a_DetermineStationComps();
   lf::a_DetermineStationEquip();
   lf::G.Cash = 123456;
@@ -75,6 +77,7 @@ void BM_StationDealerFrame(benchmark::State& state) {
   lf::GFX.StationBack = lf::LoadBitmapIntoDXS(R"(\gfx\station\a_backs\ship_dealer.bmp)");
   lf::GFX.DealerSelect = lf::LoadBitmapIntoDXS(R"(\gfx\station\a_misc\select.bmp)");
   lf::GFX.CompAnimBitmap = lf::LoadBitmapIntoDXS(R"(\gfx\station\comps\4_1.bmp)");
+  lf::GFX.CompAnimBitmap.KeepPlainRows();
   lf::G.DealerGroup = 4;
   lf::G.DealerSelection = 21;
   g_host.cursorX = 100;

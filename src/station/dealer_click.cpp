@@ -31,6 +31,8 @@ constexpr GroupButton kGroupButtons[] = {
 
 void LoadCompAnim(const std::string& name) {
   GFX.CompAnimBitmap = LoadBitmapIntoDXS("\\gfx\\station\\comps\\" + name + ".bmp");
+  // One frame of the strip is cut out each frame, far from its left edge.
+  GFX.CompAnimBitmap.KeepPlainRows();
   G.CompAnimFrame = 0;
 }
 

@@ -171,7 +171,7 @@ void StationScreen(Canvas& cv, std::string_view name, uint32_t seed) {
     // right-aligned at 88 on y 435.
     Frame(cr, 240, 50, 172, 196, kCyan);
     Text(cr, "AT THE BAR", 326, 44, 8, kLabel, Align::Center, true, true);
-    Frame(cr, 424, 50, 196, 150, kCyan);
+    Frame(cr, 424, 50, 196, 158, kCyan);
     Text(cr, "YOUR CREW", 522, 44, 8, kLabel, Align::Center, true, true);
     for (int post = 1; post <= 6; ++post) {
       const double top = 70 + 24 * (post - 1);
@@ -185,7 +185,7 @@ void StationScreen(Canvas& cv, std::string_view name, uint32_t seed) {
       cairo_stroke(cr);
       FillRect(cr, 452, top + 14, 164, 1, {0.06, 0.16, 0.19});
     }
-    Text(cr, "DISMISS", 440, 214, 7, kLabel, Align::Center, true, true);
+    Text(cr, "DISMISS", 440, 222, 7, kLabel, Align::Center, true, true);
     Frame(cr, 58, 270, 80, 100, kAmber);           // picture
     Frame(cr, 160, 262, 460, 150, kCyan);          // text
     Frame(cr, 10, 424, 220, 34, kAmber);
