@@ -235,13 +235,15 @@ TEST_F(Outcomes, TheLanderMeetsAGasGiantAStationOrGoesDownForOre) {
   int landed = 0;
   for (int i = 0; i < 60; ++i) {
     G.EventScript[13].Text[2][2] = "";
+    G.FreeCargo = 1000;  // a first landing on the body brings 50
+    G.Planet[1].LanderVisits = 0;
     host.seed = static_cast<std::uint64_t>(i);  // the launch reseeds from the clock
     Raise(13);
     Choose(1);
     ASSERT_TRUE(Node(13) == 2 || Node(13) == 3);
     if (Node(13) == 2) {
       ++landed;
-      EXPECT_EQ(G.EventScript[13].Text[2][2], "RESULTED IN EXTRACTION OF 37 OF ORE.");
+      EXPECT_EQ(G.EventScript[13].Text[2][2], "RESULTED IN EXTRACTION OF 50 OF ORE.");
     } else {
       EXPECT_EQ(G.EventScript[13].Text[2][2], "");  // no ore line from this way
     }

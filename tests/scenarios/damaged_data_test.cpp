@@ -65,8 +65,10 @@ TEST(DamagedData, EveryDamagedFileIsSkippedAndNamedOnceAndTheGameGoesOn) {
   // the bridge; every officer's page, each with its press sound; a message.
   {
     std::ofstream f(dir / "tour.txt");
+    // An officer aboard, or the crewless bridge would be a lost game at once.
     f << "frames 3\nclick 320 150\nframes 3\nclick 320 240\nframes 5\nkey 27\nframes 2\n"
-         "click 320 270\nframes 30\n";
+         "restore officer.json\nclick 320 270\nframes 30\n";
+    std::ofstream(dir / "officer.json") << R"({"CrewPost": {"1": {"Person": 1, "Health": 100}}})";
     for (const char* face : {"60 80", "60 200", "60 340", "580 80", "580 200", "580 340"})
       f << "click " << face << "\nframes 10\n";
     f << "restore message.json\nframes 200\ndump tour.json\n";

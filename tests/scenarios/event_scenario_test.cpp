@@ -21,7 +21,7 @@ class EventScenario : public ::testing::Test {
     dir = fs::temp_directory_path() / ("lanefarer_event_scenario_" + std::to_string(::getpid()));
     fs::remove_all(dir);
     fs::create_directories(dir);
-    for (const char* name : {"event_plague.txt", "event_plague.json"})
+    for (const char* name : {"event_plague.txt", "event_plague.json", "one_officer.json"})
       fs::copy_file(fs::path(LANEFARER_SCENARIOS) / name, dir / name);
   }
   void TearDown() override { fs::remove_all(dir); }

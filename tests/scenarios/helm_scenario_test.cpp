@@ -27,7 +27,7 @@ class HelmScenario : public ::testing::Test {
                                        std::to_string(::getpid()));
     fs::remove_all(dir);
     fs::create_directories(dir);
-    for (const char* f : {"helm_ship.json", "helm_voyage.txt"})
+    for (const char* f : {"helm_ship.json", "helm_voyage.txt", "one_officer.json"})
       fs::copy_file(fs::path(LANEFARER_SCENARIOS) / f, dir / f);
   }
   void TearDown() override {
@@ -58,7 +58,7 @@ class HelmScenario : public ::testing::Test {
   // The start of every script: the bridge after Load, the fitted ship, the
   // navigator's page open.
   static std::string OnTheBridge() {
-    return "frames 3\nclick 320 270\nframes 5\nrestore helm_ship.json\nframes 2\nclick 60 80\nframes 2\n";
+    return "frames 3\nrestore one_officer.json\nclick 320 270\nframes 5\nrestore helm_ship.json\nframes 2\nclick 60 80\nframes 2\n";
   }
 
   fs::path dir;
