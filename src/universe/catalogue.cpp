@@ -102,7 +102,7 @@ std::string_view RaceName(int race) {
 
 std::string_view GradeName(int grade) {
   static constexpr std::string_view kGrades[6] = {"", "VERY POOR", "POOR", "AVERAGE", "GOOD",
-                                                  "EXCELL."};
+                                                  "EXCELLENT"};
   return (grade >= 1 && grade <= 5) ? kGrades[grade] : "";
 }
 

@@ -30,8 +30,9 @@ HullRecord ClassHull(int shipClass);
 
 // "HUMAN" .. "PIRATES" for 1..7, empty otherwise.
 std::string_view RaceName(int race);
-// Skill grades 1..5 as the crew pages write them: "VERY POOR", "POOR",
-// "AVERAGE", "GOOD", "EXCELL.".
+// Grades 1..5 in words, as the station's pages write them: "VERY POOR",
+// "POOR", "AVERAGE", "GOOD", "EXCELLENT" (the bridge's crew panel shortens
+// the last to "EXCELL." with its own words).
 std::string_view GradeName(int grade);
 
 // A cell of ComponentTable as text, and read as a number (an empty or

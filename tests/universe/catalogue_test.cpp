@@ -132,7 +132,7 @@ TEST_F(Catalogue, ShipClassesGiveRaceHullAndLoadout) {
   EXPECT_EQ(ClassHull(40).Name, "");
   EXPECT_EQ(RaceName(6), "WOOT-AM");
   EXPECT_EQ(RaceName(8), "");
-  EXPECT_EQ(GradeName(5), "EXCELL.");
+  EXPECT_EQ(GradeName(5), "EXCELLENT");
 }
 
 }  // namespace
