@@ -36,6 +36,5 @@ void Butt_4_2() {}
 void Butt_5_1() {}
 void DrawScanResults() {}
 void CheckResearchMouseDown() {}
-void CheckMissionDecline() {}
 
 }  // namespace lf
