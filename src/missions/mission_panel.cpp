@@ -150,19 +150,26 @@ void CheckMissionDecline() {
 
 void DeclineMission(int place) {
   if (place < 1 || place > 2 || G.ActiveMission[place] == 0) return;
+  const MissionRecord* m = MissionInSlot(G.ActiveMission[place]);
+  if (m == nullptr) {
+    // A place holding no real mission (a damaged saved state) is freed
+    // without a word or a cost, so that it cannot block the place for good.
+    G.ActiveMission[place] = 0;
+    G.MissionProgress[place] = 0;
+    return;
+  }
   PlaySoundFx(8, 1);
   if (G.MissionProgress[place] == 1) {
     SetMessage("YOU HAVE ALREADY COMPLETED YOUR MISSION!", "YOU CANNOT DECLINE IT NOW!", "");
     return;
   }
   SetMessage("", "YOU HAVE DECLINED THE MISSION!", "");
-  const MissionRecord* m = MissionInSlot(G.ActiveMission[place]);
   // A forfeit is never a gain: a damaged record with a negative reward
   // costs nothing.
-  if (m != nullptr && m->Reward > 0) G.Cash = Int(G.Cash - m->Reward / 3.0);
+  if (m->Reward > 0) G.Cash = Int(G.Cash - m->Reward / 3.0);
   // The goods of a trade mission are handed back with it: the hold is free
   // again.
-  if (m != nullptr && MissionTakesCargo(m->MissionType) && m->CargoUnits > 0)
+  if (MissionTakesCargo(m->MissionType) && m->CargoUnits > 0)
     G.FreeCargo = static_cast<std::int16_t>(G.FreeCargo + m->CargoUnits);
   G.ActiveMission[place] = 0;
   G.MissionProgress[place] = 0;

@@ -68,7 +68,9 @@ TEST_F(CatalogueTest, TargetsObeyTheirDrawingRules) {
       EXPECT_NE(m.PlanetKind1, m.PlanetKind2);
       EXPECT_GE(m.PlanetKind2, 1);
     }
-    if (spec->Where == Target::Kind1) EXPECT_EQ(m.PlanetKind2, 0);
+    if (spec->Where == Target::Kind1) {
+      EXPECT_EQ(m.PlanetKind2, 0);
+    }
   }
 }
 
@@ -80,7 +82,9 @@ TEST_F(CatalogueTest, TradePayFollowsCargoAndBasePrice) {
     EXPECT_GE(m.CargoUnits, spec->CargoLo);
     EXPECT_LE(m.CargoUnits, spec->CargoHi);
     EXPECT_EQ(m.Reward, static_cast<int>(std::nearbyint(m.CargoUnits * G.BasePrice[m.CommodityNo] * spec->PayFactor)));
-    if (m.MissionType == 4) EXPECT_EQ(m.Reward, m.CargoUnits * 60) << "commodity 8 at full price";
+    if (m.MissionType == 4) {
+      EXPECT_EQ(m.Reward, m.CargoUnits * 60) << "commodity 8 at full price";
+    }
   }
   EXPECT_GT(G.Missions[SlotOfType(35)].Reward, 0) << "the engagement names an amount of its own";
 }
@@ -111,7 +115,9 @@ TEST_F(CatalogueTest, EachRankDealsItsLinesFromTheRightGuilds) {
     SCOPED_TRACE("rank " + std::to_string(row.Rank));
     G.Reputation = kThreshold[row.Rank - 1];
     ASSERT_EQ(MissionRank(G.Reputation), row.Rank);
-    if (row.Rank > 1) ASSERT_EQ(MissionRank(G.Reputation - 0.5), row.Rank - 1);
+    if (row.Rank > 1) {
+      ASSERT_EQ(MissionRank(G.Reputation - 0.5), row.Rank - 1);
+    }
     a_StationMissionRandomize();
     EXPECT_EQ(MinRanks(1), row.Board1);
     EXPECT_EQ(MinRanks(3), row.Board3);

@@ -323,6 +323,8 @@ TEST_F(LifecycleTest, DamagedTablesPayNothingAndNeverStop) {
   DrawCurrentMissions();
   DrawMissionObjectives();
   DeclineMission(2);
+  EXPECT_EQ(G.ActiveMission[2], 0) << "a place holding no mission is freed";
+  EXPECT_EQ(G.Cash, cash);
 
   const int slot = SlotOfType(13);
   M(slot).Reward = -5000;

@@ -6,6 +6,7 @@
 #include <array>
 #include <set>
 
+#include "bridge/later_procedures.h"
 #include "missions/mission_rules.h"
 #include "missions/missions_procedures.h"
 #include "station/screens_fixture.h"
@@ -40,6 +41,11 @@ class MissionsTest : public StationScreenTest {
   static void Offer(int board, int line, int slot) {
     G.MissionBoard[board][line] = static_cast<std::int16_t>(slot);
     G.ServicePage = static_cast<std::int16_t>(99 + line);
+  }
+  static bool Sounded(int s, int c) {
+    for (const MediaCall& m : MediaLog())
+      if (m.kind == MediaCall::Kind::Sound && m.number == s && m.channel == c) return true;
+    return false;
   }
   // Carries a slot in a place, as taken.
   static void Carry(int place, int slot, int progress = 0) {
