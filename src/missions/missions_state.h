@@ -1,5 +1,5 @@
-// The missions' share of the Game record: the catalogue, the boards, the
-// captain's two places and the story stages.
+// The missions' share of the Game record: the catalogue, the boards, the two
+// missions held and their progress, and the story stages.
 #pragma once
 
 #include <cstdint>
@@ -15,7 +15,7 @@ struct MissionRecord {
   Flag Spare1 = False;
   std::string Title;
   std::int16_t Flavour = 0;
-  std::int16_t MissionType = 0;
+  std::int16_t MissionType = 0;  // 0: an empty record
   std::int16_t MinRank = 0;
   std::string Spare2;
   std::int16_t Guild = 0;
