@@ -10,6 +10,7 @@
 #include "combat/fight_procedures.h"
 #include "display/bitmap_sets.h"
 #include "media/media.h"
+#include "missions/mission_rules.h"
 #include "shell/clocks.h"
 #include "shell/game_state.h"
 #include "shell/screens.h"
@@ -47,6 +48,7 @@ void Victory() {
   wreck.Y = CIntReal(G.ShipY + Int(Rnd() * 50) - 50);
   wreck.Visible = True;
   G.Reputation += VictoryReputation(G.FightHullClass);
+  Skip(MissionFightWon);
   Skip(TakeOutOfTheWay);
 }
 

@@ -1,5 +1,5 @@
-// The missions' share of the Game record: the catalogue, the two missions
-// held and their progress, and the story stages.
+// The missions' share of the Game record: the catalogue, the boards, the two
+// missions held and their progress, and the story stages.
 #pragma once
 
 #include <cstdint>
@@ -43,8 +43,10 @@ void VisitFields(V& v, MissionRecord& r) {
 }
 
 struct MissionsState {
+  // Slot 0 means no mission; the catalogue fills 1..380.
   Table<MissionRecord, 500> Missions{};
-  // The missions held (a Missions slot, 0 none) and how far each has come.
+  // Board 1 the lounge, 2..4 the guilds, 5 the pirates' lounge; lines 1..10.
+  Table<Table<std::int16_t, 10>, 5> MissionBoard{};
   Table<std::int16_t, 2> ActiveMission{};
   Table<std::int16_t, 2> MissionProgress{};
   Table<Flag, 10> StoryStage{};
@@ -53,6 +55,7 @@ struct MissionsState {
 template <class V>
 void VisitFields(V& v, MissionsState& s) {
   v("Missions", s.Missions);
+  v("MissionBoard", s.MissionBoard);
   v("ActiveMission", s.ActiveMission);
   v("MissionProgress", s.MissionProgress);
   v("StoryStage", s.StoryStage);

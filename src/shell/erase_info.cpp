@@ -60,6 +60,9 @@ void EraseBridge() {
 
 void EraseProgress() {
   G.StoryStage = {};
+  G.ActiveMission = {};
+  G.MissionProgress = {};
+  G.MissionBoard = {};
   G.TranslatorOwned = {};
   G.StarLaneKnown = False;
   G.NextEventCountdown = 0;
