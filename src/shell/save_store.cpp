@@ -203,6 +203,11 @@ std::string StorePosition(const std::string& folderName, const PositionTexts& te
   }
 }
 
+bool PositionStands(const std::string& folderName) {
+  Recover(folderName);
+  return Exists(folderName);
+}
+
 std::string FetchPosition(const std::string& folderName, PositionTexts& texts) {
   const fs::path folder = folderName;
   Recover(folder);

@@ -18,6 +18,9 @@ std::string StorePosition(const std::string& folder, const PositionTexts& texts)
 // success, else one line for the prompt strip.
 std::string FetchPosition(const std::string& folder, PositionTexts& texts);
 
+// Whether a saved position stands in `folder` (whole or not).
+bool PositionStands(const std::string& folder);
+
 // For tests: a failure at the given step of the next saves (each file's
 // write, the sync of the folder, each rename and the removal of the old
 // folder count as one step, from 0). With error 0 the save stops there as a

@@ -22,6 +22,8 @@ void SaveGame() {
   G.BridgeActive = True;
 }
 
+bool SavedPositionExists() { return PositionStands(SaveFolder()); }
+
 std::string ReadSavedPosition(Game& into) {
   PositionTexts texts;
   std::string problem = FetchPosition(SaveFolder(), texts);

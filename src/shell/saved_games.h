@@ -15,6 +15,8 @@ void SaveGame();
 // Reads the position back; on any failure the record stays as it was, the
 // prompt strip says why, and the result is false.
 bool LoadGame();
+// Whether there is a saved position to load, whole or damaged.
+bool SavedPositionExists();
 // Reads the saved position into `into` without the load's after-steps.
 // Returns an empty string on success, else the strip's line.
 std::string ReadSavedPosition(Game& into);
