@@ -7,6 +7,7 @@
 #include <cstdlib>
 
 #include "display/bitmap_sets.h"
+#include "display/gfx.h"
 #include "display/screen.h"
 #include "shell/game_state.h"
 #include "shell/host.h"
@@ -48,6 +49,8 @@ void Docked() {
   lf::G.ProgressMode = 0;
   lf::UnloadMainBitmaps();
   lf::a_LoadStationBitmaps();
+  lf::GFX.StationFontOcr.KeepPlainRows();
+  lf::GFX.StationFontImp.KeepPlainRows();
   lf::a_DetermineStationComps();
   lf::a_Welcome();
   lf::G.StatusSlot[lf::DockedSlot].Active = lf::True;

@@ -57,12 +57,12 @@ struct BridgeState {
   // Helm, maintenance, hails and science.
   Flag HasLander = False;
   Flag TradeOpen = False;
-  // The hail menu's lines of this frame, and what the hailed trader offers.
-  Table<std::string, 30> HailLine{};
-  Table<std::int16_t, 14> ShipOffer{};
   std::int16_t RepairPool = 0;
   Flag ScanRequested = False;
   Table<std::int16_t, 7> RaceRelation{};
+  // The hail menu's lines of this frame, and what the hailed trader offers.
+  Table<std::string, 30> HailLine{};
+  Table<std::int16_t, 14> ShipOffer{};
 
   // Animation frames of the sector view.
   double ShipFrame = 0;
@@ -85,6 +85,8 @@ struct BridgeState {
   // The medical officer's effort and its shares by crew post.
   std::int16_t MedicalPool = 0;
   Table<std::int16_t, 6> TreatmentAlloc{};
+  // A virus may spread on the next even day.
+  Flag VirusSpreadArmed = False;
 
   // Ore brought up by the last lander; the star lane's place and its
   // animation frame.
@@ -115,11 +117,11 @@ void VisitFields(V& v, BridgeState& s) {
   v("SparePower", s.SparePower);
   v("HasLander", s.HasLander);
   v("TradeOpen", s.TradeOpen);
-  v("HailLine", s.HailLine);
-  v("ShipOffer", s.ShipOffer);
   v("RepairPool", s.RepairPool);
   v("ScanRequested", s.ScanRequested);
   v("RaceRelation", s.RaceRelation);
+  v("HailLine", s.HailLine);
+  v("ShipOffer", s.ShipOffer);
   v("ShipFrame", s.ShipFrame);
   v("DestMarkerFrame", s.DestMarkerFrame);
   v("SensorRingFrame", s.SensorRingFrame);
@@ -134,6 +136,7 @@ void VisitFields(V& v, BridgeState& s) {
   v("FightShip", s.FightShip);
   v("MedicalPool", s.MedicalPool);
   v("TreatmentAlloc", s.TreatmentAlloc);
+  v("VirusSpreadArmed", s.VirusSpreadArmed);
   v("LanderLoad", s.LanderLoad);
   v("StarLaneX", s.StarLaneX);
   v("StarLaneY", s.StarLaneY);

@@ -120,7 +120,7 @@ void d_CheckBlownComponent(int slot) {
   if (slot >= 1 && slot <= Slots() && G.FittedHealth[slot] <= 0 && G.FittedComp[slot][1] != 0) {
     PlaySoundFx(28, 0);
     G.FightLog[3] = "SHIP COMPONENT WAS DESTROYED: " +
-                    Capitals(ComponentName(G.FittedComp[slot][1], G.FittedComp[slot][2]));
+                    Capitals(FightComponentName(G.FittedComp[slot][1], G.FittedComp[slot][2]));
     EmptySlot(slot);
   }
 }

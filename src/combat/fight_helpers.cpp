@@ -16,7 +16,7 @@ void ReseedFromClock() {
   SeedRandom(G.Random, CurrentHost().ClockSeed() ^ (G.Random.State * 0x9E3779B97F4A7C15ull));
 }
 
-const std::string& ComponentName(int group, int model) {
+const std::string& FightComponentName(int group, int model) {
   static const std::string kEmpty;
   using T = decltype(G.ComponentTable);
   using M = std::remove_reference_t<decltype(G.ComponentTable[0])>;

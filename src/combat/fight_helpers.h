@@ -28,7 +28,7 @@ inline constexpr int kDragon = 20, kRapier = 21, kShrike = 22;
 void ReseedFromClock();
 
 // The name cell of a component (empty outside the table); no copy made.
-const std::string& ComponentName(int group, int model);
+const std::string& FightComponentName(int group, int model);
 
 // The model in the first fitted slot of a group on the player's ship, 0 none.
 int FirstFittedModel(int group);

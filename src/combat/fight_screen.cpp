@@ -68,7 +68,7 @@ std::string_view LineName(int line) {
   }
   const int group = LineGroup(line);
   if (group != 1 && group != 3) return {};
-  return ComponentName(group, LineModel(line));
+  return FightComponentName(group, LineModel(line));
 }
 
 void Gauge(int x, int column, double fraction) {

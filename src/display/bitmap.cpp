@@ -37,4 +37,8 @@ void Bitmap::Reset() {
   surface_ = nullptr;
 }
 
+void Bitmap::KeepPlainRows() {
+  if (surface_) SDL_SetSurfaceRLE(surface_, 0);
+}
+
 }  // namespace lf

@@ -24,6 +24,9 @@ class Bitmap {
   int Height() const;
   SDL_Surface* Surface() const { return surface_; }
   void Reset();
+  // Leaves the picture in plain rows: a glyph sheet is blitted a cell at a
+  // time, and run-length coding would make every cell walk whole rows.
+  void KeepPlainRows();
 
  private:
   SDL_Surface* surface_ = nullptr;

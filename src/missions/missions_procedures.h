@@ -11,7 +11,8 @@ void CheckPatrolPoint();
 void DrawMissionObjectives();
 void DrawCurrentMissions();
 // Told of what the ship has done that a mission may wait for: 1 a pod
-// tractored aboard, 2..5 scans, 6 a mission event's end.
+// tractored aboard, 2 a body scanned, 3 an asteroid field, 4 a nebula,
+// 5 a scan from orbit, 6 a mission event's end.
 void CheckMission(int kind);
 
 }  // namespace lf

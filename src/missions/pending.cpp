@@ -8,8 +8,8 @@ void DefineMissionSpecs() {}
 
 // Mission lifecycle: filled by the mission progress rules.
 void CheckPatrolPoint() {}
+void CheckMission(int) {}
 void DrawMissionObjectives() {}
 void DrawCurrentMissions() {}
-void CheckMission(int) {}
 
 }  // namespace lf

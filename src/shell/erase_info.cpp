@@ -68,6 +68,15 @@ void EraseProgress() {
   G.Reputation = 0;
 }
 
+// The loan, the chart, the guilds and every piece of special equipment,
+// the pirates' goods with them.
+void EraseHoldings() {
+  static_cast<FleetState&>(G) = FleetState{};
+  G.BlackDecoder = False;
+  G.SecretCargo = False;
+  G.ShrikeMissile = False;
+}
+
 }  // namespace
 
 void EraseInfo() {
@@ -78,6 +87,7 @@ void EraseInfo() {
   ErasePower();
   EraseBridge();
   EraseProgress();
+  EraseHoldings();
 }
 
 }  // namespace lf

@@ -33,7 +33,9 @@ void Resume() {
   if (G.StatusSlot[EventSlot].Active == True) {
     G.FightActive = False;
     PlayTrack(3);
-    c_EventLoop();
+    // An event raised but not yet entered has no loop to go back to: the
+    // bridge below goes on, and enters it.
+    if (G.EventActive == True) c_EventLoop();
   }
   if (G.BridgeActive == True && G.FightActive == 0) {
     PlayTrack(4);

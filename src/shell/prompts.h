@@ -23,5 +23,8 @@ void DrawText();
 void CheckQuestion();
 // All PromptFade to 0 and every line's first entry to 3.
 void a_ClearTermScreen();
+// Each frame of the station, event and fight screens: every letter whose
+// left neighbour is above 0.3 brightens by 0.3, up to 3.
+void a_AddToLetterCount();
 
 }  // namespace lf

@@ -2,6 +2,7 @@
 // picture, and the bridge (whose first frame docks at the start station).
 #include "bridge/bridge_procedures.h"
 #include "display/bitmap_sets.h"
+#include "events/events_procedures.h"
 #include "media/media.h"
 #include "missions/missions_procedures.h"
 #include "shell/clocks.h"
@@ -103,6 +104,7 @@ void StartNew() {
   G.ViewDetached = False;
   Skip(RandomGame);
   Skip(RandomizeCharacters);
+  Skip(DefineHero);  // the survivor whom events 3 and 10 may bring aboard
   Skip(DefineShipSpecs);
   Skip(SetMoneyAndPower);
   Skip(ResetRelations);

@@ -81,11 +81,12 @@ void DrawHullInfo(int race, int hullClass, bool own) {
 }  // namespace
 
 void a_DrawCompAnim() {
+  if (!(G.CompAnimFrame >= 0 && G.CompAnimFrame <= 35)) G.CompAnimFrame = 0;
   const int frame = static_cast<int>(Int(G.CompAnimFrame));
   SetSrc(200 * frame, 0, 200 * frame + 200, 200);
   BltFast(14, 20, GFX.CompAnimBitmap, true);
   G.CompAnimFrame += 0.5;
-  if (G.CompAnimFrame > 35 || G.CompAnimFrame < 0) G.CompAnimFrame = 0;
+  if (G.CompAnimFrame > 35) G.CompAnimFrame = 0;
 }
 
 void a_DrawHardPList() {

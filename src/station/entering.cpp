@@ -4,6 +4,7 @@
 #include <string>
 
 #include "display/bitmap_sets.h"
+#include "display/gfx.h"
 #include "media/media.h"
 #include "shell/clocks.h"
 #include "shell/game_state.h"
@@ -40,6 +41,9 @@ void SwapToStationBitmaps() {
   G.ProgressCount = 0;
   UnloadMainBitmaps();
   a_LoadStationBitmaps();
+  // The fonts are drawn letter by letter, every frame.
+  GFX.StationFontOcr.KeepPlainRows();
+  GFX.StationFontImp.KeepPlainRows();
   G.ProgressMode = 0;
 }
 

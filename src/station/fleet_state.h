@@ -16,6 +16,8 @@ struct FleetState {
   Flag LoanActive = False;
   std::int16_t LoanMonthsLeft = 0;
   std::int32_t LoanDue = 0;
+  // The loan has been counted for this month.
+  Flag LoanMonthMarked = False;
   // A star chart was bought (the science officer lists it).
   Flag ChartBought = False;
   // Guilds 1 exploration, 2 merchant, 3 mercenary.
@@ -38,6 +40,7 @@ void VisitFields(V& v, FleetState& s) {
   v("LoanActive", s.LoanActive);
   v("LoanMonthsLeft", s.LoanMonthsLeft);
   v("LoanDue", s.LoanDue);
+  v("LoanMonthMarked", s.LoanMonthMarked);
   v("ChartBought", s.ChartBought);
   v("GuildMember", s.GuildMember);
   v("CountermeasureRack", s.CountermeasureRack);

@@ -1,6 +1,6 @@
 // The station's share of the Game record: money, reputation, the fleet
-// office's holdings, the terminal and its prompt, the service menu, the
-// owned special goods, and the selections of the station screens.
+// office's holdings and the loan, the terminal and its prompt, the service
+// menu, the owned special goods, and the selections of the station screens.
 #pragma once
 
 #include <cstdint>
@@ -43,6 +43,9 @@ struct StationState {
   std::int16_t LoungeSelection = 0;
   std::int16_t DealerGroup = 0;
   std::int16_t DealerSelection = 0;
+
+  // The day of the month of the last news change.
+  std::int16_t NewsDay = 0;
 };
 
 template <class V>
@@ -65,6 +68,7 @@ void VisitFields(V& v, StationState& s) {
   v("LoungeSelection", s.LoungeSelection);
   v("DealerGroup", s.DealerGroup);
   v("DealerSelection", s.DealerSelection);
+  v("NewsDay", s.NewsDay);
 }
 
 }  // namespace lf

@@ -61,18 +61,6 @@ void VisitFields(V& v, OtherShipRecord& r) {
   v("AssistGiven", r.AssistGiven); v("TradeInfoGiven", r.TradeInfoGiven);
 }
 
-// The science officer's work on one fitted slot.
-struct UpgradeJobRecord {
-  Flag Upgraded = False;
-  double Progress = 0;
-  double Bonus = 0;
-  Flag Active = False;
-};
-template <class V>
-void VisitFields(V& v, UpgradeJobRecord& r) {
-  v("Upgraded", r.Upgraded); v("Progress", r.Progress); v("Bonus", r.Bonus); v("Active", r.Active);
-}
-
 struct CharacterRecord {
   std::string Name;
   std::int16_t Post = 0;
@@ -95,6 +83,18 @@ void VisitFields(V& v, CrewPostRecord& r) {
   v("Health", r.Health); v("Person", r.Person); v("Infected", r.Infected);
   v("Quarantined", r.Quarantined); v("Vaccinated", r.Vaccinated); v("SalaryDue", r.SalaryDue);
   v("SalaryBalance", r.SalaryBalance);
+}
+
+// Research on a fitted slot's component.
+struct UpgradeJobRecord {
+  Flag Upgraded = False;
+  double Progress = 0;
+  double Bonus = 0;
+  Flag Active = False;
+};
+template <class V>
+void VisitFields(V& v, UpgradeJobRecord& r) {
+  v("Upgraded", r.Upgraded); v("Progress", r.Progress); v("Bonus", r.Bonus); v("Active", r.Active);
 }
 
 struct HullRecord {

@@ -1,5 +1,5 @@
-// The navigator's actions beyond a course: the autopilot list, orbit and its
-// doors, docking clearance, the lander, the tractor beam and the star lane.
+// The navigator's actions beyond a course: the autopilot list, docking
+// clearance, the lander, the tractor beam and the star lane.
 #include <cmath>
 #include <set>
 
@@ -7,8 +7,6 @@
 #include "bridge/later_procedures.h"
 #include "bridge_fixture.h"
 #include "display/gfx.h"
-#include "shell/bridge_frame_steps.h"
-#include "shell/doors.h"
 #include "shell/program.h"
 #include "shell/screens.h"
 #include "shell/prompts.h"
@@ -26,7 +24,6 @@ class HelmActionsTest : public BridgeTest {
     SeedRandom(G.Random, 77);
     G.FreeCargo = 100;
     G.FreeMass = 1000;
-    G.BigDoorPos = 200;  // the doors stand open on space
     for (int race = 1; race <= 7; ++race) G.RaceRelation[race] = 50;
     // Debris and pods far from the ship unless a test brings them close.
     for (int i = 1; i <= 50; ++i) {
@@ -52,11 +49,6 @@ class HelmActionsTest : public BridgeTest {
   static void OpenNavigator() {
     G.PageOpen = {};
     G.PageOpen[1] = 1;
-  }
-
-  // The doors run until the change under way is done.
-  static void RunDoors() {
-    for (int f = 0; f < 1000 && (G.OrbitState == 2 || G.OrbitState == 4); ++f) DrawViewContents();
   }
 
   static std::string Line(int n) { return G.PromptLine[n]; }
@@ -138,31 +130,6 @@ TEST_F(HelmActionsTest, TheListDrawsElevenRowsWithIconsAndAPirateBaseInItsBand) 
   EXPECT_TRUE(BlitsOf(GFX.FontVsml).empty());
 }
 
-// --- Orbit --------------------------------------------------------------
-
-TEST_F(HelmActionsTest, OrbitRunsTwoThreeFourOneThroughTheDoors) {
-  PlanetRecord& p = Body(1, 2530, 2500);
-  OpenNavigator();
-  CheckDistance();
-  ASSERT_EQ(G.OrbitState, 1);
-  PressButton(1, 5);
-  EXPECT_EQ(G.OrbitState, 2);
-  EXPECT_EQ(Line(2), "ENTERING ORBIT.");
-  RunDoors();
-  EXPECT_EQ(G.OrbitState, 3);
-  EXPECT_DOUBLE_EQ(G.TimeStep, 0.1 / 60);
-  EXPECT_EQ(p.Known, True);
-  EXPECT_EQ(ButtonState(1, 9), 2) << "all stop is grey in orbit";
-
-  PressButton(1, 6);
-  EXPECT_EQ(G.OrbitState, 4);
-  EXPECT_EQ(Line(2), "LEAVING ORBIT.");
-  RunDoors();
-  EXPECT_EQ(G.OrbitState, 1);
-  EXPECT_DOUBLE_EQ(G.TimeStep, 0.1);
-  EXPECT_EQ(G.DestX, G.ShipX);
-}
-
 // --- Docking ------------------------------------------------------------
 
 TEST_F(HelmActionsTest, AStationInOrbitGrantsClearanceAndThePirateBaseOnlyToOutlaws) {
@@ -175,6 +142,13 @@ TEST_F(HelmActionsTest, AStationInOrbitGrantsClearanceAndThePirateBaseOnlyToOutl
   EXPECT_EQ(Line(6), " YOU ARE CLEAR TO DOCK!");
   EXPECT_EQ(G.PromptFace, 2);
   EXPECT_EQ(G.StatusSlot[DockedSlot].Active, True);
+
+  // A station with an epidemic keeps its doors shut.
+  G.StatusSlot[DockedSlot].Active = False;
+  G.Planet[1].Epidemic = True;
+  Butt_1_3();
+  EXPECT_EQ(Line(3), " YOU ARE (FOR NOW) FORBIDDEN FROM DOCKING!");
+  EXPECT_EQ(G.StatusSlot[DockedSlot].Active, False);
 
   // The pirate base, straight from space.
   G.StatusSlot[DockedSlot].Active = False;
@@ -451,12 +425,15 @@ TEST_F(HelmActionsTest, TheLaneOfTheFourthQuadrantEndsTheProgramCleanly) {
     G.StarLaneKnown = True;
     G.StarLaneX = 2500;
     G.StarLaneY = 2519;
+    ClearMediaLog();
     try {
       EnteringStarlane();
       ADD_FAILURE() << "quadrant " << q << " did not end the program";
     } catch (const ProgramEnd& end) {
       EXPECT_EQ(end.status, 0);
     }
+    ASSERT_GE(MediaLog().size(), 3u);
+    EXPECT_EQ(MediaLog()[1].file, "anim/end.mpg") << "after the music stops";
     EXPECT_EQ(G.StarLaneKnown, False);
   }
   G.StarLaneKnown = True;

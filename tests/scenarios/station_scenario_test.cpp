@@ -107,4 +107,12 @@ TEST_F(StationScenario, BuyingTenRunsOutOfMoneyThenRoomThenStock) {
   EXPECT_EQ(Dump("back_at_terminal.json")["StatusSlot"][12]["Value"], 1);
 }
 
+TEST_F(StationScenario, ADamagedDockedStateKeepsTheLoopRunning) {
+  ASSERT_EQ(Run("station_damaged.txt"), 0) << Err();
+  const json d = Dump("damaged.json");
+  EXPECT_EQ(d["StationActive"], -1);
+  EXPECT_EQ(d["NoGameRunning"], 0);
+  EXPECT_GE(d["Cash"].get<double>(), 0);
+}
+
 }  // namespace

@@ -2,6 +2,7 @@
 // and the end of the link; and restored ship tables that make no sense.
 #include <gtest/gtest.h>
 
+#include <cmath>
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
@@ -105,6 +106,25 @@ TEST_F(TrafficScenario, AFriendlyTraderCallsIsGreetedTradesAndTheLinkCloses) {
   for (const json& body : exchanged["Planet"]) known += body["Known"] != 0;
   EXPECT_GE(known, 1);
   EXPECT_LE(known, 4);
+}
+
+TEST_F(TrafficScenario, AHostilePirateClosesInAndTheFightStartsWithin50) {
+  ASSERT_EQ(Run("pirate_closing.txt"), 0) << Err();
+  const auto distance = [](const json& d) {
+    const json& s = d["OtherShip"][1];
+    return std::hypot(s["X"].get<double>() - d["ShipX"].get<double>(),
+                      s["Y"].get<double>() - d["ShipY"].get<double>());
+  };
+  const json closing = Dump("closing.json");
+  EXPECT_EQ(closing["FightActive"], 0);
+  EXPECT_GT(distance(closing), 50);
+  // It heads for the player, not for home.
+  EXPECT_EQ(closing["OtherShip"][1]["TargetX"], 2510);
+  EXPECT_EQ(closing["OtherShip"][1]["TargetY"], 2506);
+  const json fight = Dump("fight.json");
+  EXPECT_NE(fight["FightActive"], 0);
+  EXPECT_EQ(fight["FightShip"], 1);
+  EXPECT_LT(distance(fight), 50);
 }
 
 TEST_F(TrafficScenario, NonsenseShipTablesKeepTheBridgeRunning) {

@@ -345,6 +345,7 @@ TEST_F(BridgeFrame, RecountsTheRepairPoolFromTheEngineerAndFittedShares) {
   G.RepairCrew[3] = 40;  // no component: its share does not count
   G.FittedComp[11][1] = 1;
   G.RepairCrew[11] = 70;  // past the hardpoints: not counted either
+  G.FittedHealth[1] = G.FittedHealth[2] = 1;  // far from done: no share comes back
   Frames(1);
   EXPECT_EQ(G.RepairPool, 3 * 15 * 10 - 50);
   G.CrewPost[6].Person = 0;

@@ -65,6 +65,9 @@ TEST_F(Menu, ResumeBeforeAnyGameDoesNothingAndPlaysNoSound) {
 TEST_F(Menu, LoadBeforeAnyGameStartsANewOneWithoutTheOpeningPicture) {
   BeginProgram();
   ClearMediaLog();
+  // Someone aboard: a bridge without crew is a lost game.
+  G.CrewPost[1].Person = 1;
+  G.CrewPost[1].Health = 100;
   host.Click(300, BandY(3));
   Frames(1);
   EXPECT_EQ(Sounds(4, 1), 1);
@@ -134,6 +137,7 @@ TEST_F(Menu, ResumeReturnsToAStationOrAnEventBeforeAnythingElse) {
   EXPECT_EQ(Tracks(3), 1);
 
   G.StatusSlot[DockedSlot].Active = False;
+  G.EventActive = True;  // the event screen ran under the menu
   G.MenuActive = True;
   Enter(DrawMainMenu);
   host.Click(300, BandY(2));

@@ -45,16 +45,6 @@ TEST_F(Departure, EachMissingPartIsRefusedInTurnAndTheOkWelcomesAgain) {
   EXPECT_TRUE(PressExit());
 }
 
-TEST_F(Departure, AGeneratorWithoutPropulsionIsNoConfiguration) {
-  G.FittedComp[2][1] = 0;
-  PressExit();
-  EXPECT_EQ(G.TermPrompt, 509);
-  // Nor do components beyond the hardpoints count.
-  G.FittedComp[5][1] = 5;
-  PressExit();
-  EXPECT_EQ(G.TermPrompt, 509);
-}
-
 TEST_F(Departure, ALawfulStationLeavesTheShipInOrbitWithTheOrbitButtons) {
   G.PageOpen[1] = 1;
   for (int p = 1; p <= 5; ++p)
@@ -83,13 +73,6 @@ TEST_F(Departure, ALawfulStationLeavesTheShipInOrbitWithTheOrbitButtons) {
   EXPECT_EQ(G.ProgressMode, 0);
   EXPECT_EQ(TopScreen(), Screen::Bridge);
   EXPECT_EQ(MediaLog().back(), (MediaCall{MediaCall::Kind::Track, 4, 0, {}}));
-}
-
-TEST_F(Departure, WithTheFirstPageClosedTheOrbitButtonsStayHidden) {
-  G.PageOpen[1] = 0;
-  PressExit();
-  EXPECT_EQ(G.BridgeButton[1][5].Visible, False);
-  EXPECT_EQ(G.BridgeButton[1][6].Visible, False);
 }
 
 TEST_F(Departure, APirateStationLeavesTheShipFloatingBesideIt) {

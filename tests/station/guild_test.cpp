@@ -6,6 +6,7 @@
 #include <algorithm>
 
 #include "media/media.h"
+#include "shell/saved_games.h"
 #include "station/guilds.h"
 #include "screens_fixture.h"
 
@@ -167,6 +168,34 @@ TEST_F(GuildTest, PressesAndDrawsAnywhereOnNonsenseNeverFail) {
       DrawGuildMembership();
     }
   }
+}
+
+}  // namespace
+}  // namespace lf::test
+
+namespace lf::test {
+namespace {
+
+TEST_F(GuildTest, ANewGameForgetsLoansMembershipsAndEquipment) {
+  G.LoanActive = True;
+  G.LoanDue = 6000;
+  G.LoanMonthsLeft = 2;
+  G.ChartBought = True;
+  G.GuildMember[3] = True;
+  G.RapierMissile = True;
+  G.TargetingComputer = True;
+  G.BlackDecoder = True;
+  G.ShrikeMissile = True;
+  EraseInfo();
+  EXPECT_EQ(G.LoanActive, 0);
+  EXPECT_EQ(G.LoanDue, 0);
+  EXPECT_EQ(G.LoanMonthsLeft, 0);
+  EXPECT_EQ(G.ChartBought, 0);
+  EXPECT_EQ(G.GuildMember[3], 0);
+  EXPECT_EQ(G.RapierMissile, 0);
+  EXPECT_EQ(G.TargetingComputer, 0);
+  EXPECT_EQ(G.BlackDecoder, 0);
+  EXPECT_EQ(G.ShrikeMissile, 0);
 }
 
 }  // namespace

@@ -61,6 +61,7 @@ TEST_F(ScreensRobustnessTest, TheDealerTakesPressesOverDamagedStates) {
       R"({"HullRace": 9, "HullClass": 7, "HardpointCount": 25, "FreeMass": 3000, "HullPointsMax": 0,
           "DealerGroup": 8, "DealerSelection": 57})",
       R"({"HardpointCount": -4, "DealerGroup": -1, "DealerSelection": -3, "CompAnimFrame": -7})",
+      R"({"DealerSelection": 21, "DealerGroup": 4, "CompAnimFrame": 1e300, "Cash": 1e300})",
       // No money at all, or less than none.
       R"({"Cash": 0, "HullRace": 1, "HullClass": 1, "HardpointCount": 8, "FreeMass": 1000,
           "HullPointsMax": 500, "HullPoints": 10, "FittedComp": {"1": [0, 4, 1]}})",

@@ -132,18 +132,5 @@ TEST_F(Terminal, AHotServiceShowsItsPictureOrTheDeniedOneAndBlinksItsMarker) {
   EXPECT_EQ(G.ServiceMarkerFrame, 0);
 }
 
-TEST_F(Terminal, TheMenuIsRightAlignedOnOneColumn) {
-  BlitRecording rec;
-  PointAt(0, 0);
-  a_DrawStationComps();
-  // The last letter of every line stands at 593.
-  int lastOfLine[11] = {};
-  for (const BlitRecord& b : BlitsOf(GFX.StationFontImp)) {
-    const int line = (b.y - 208) / 18 + 1;
-    lastOfLine[line] = std::max(lastOfLine[line], b.x);
-  }
-  for (int line = 1; line <= 7; ++line) EXPECT_EQ(lastOfLine[line], 593) << line;
-}
-
 }  // namespace
 }  // namespace lf::test

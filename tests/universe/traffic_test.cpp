@@ -218,6 +218,12 @@ TEST_F(TrafficTest, ShipsStandStillDuringHailsPromptsCombatModeAndOrbit) {
 }
 
 TEST_F(TrafficTest, AFriendlyHumanTraderCallsOnceAndOnlyWithATranslator) {
+  // Only the Human trader calls: not a Lagew one, however friendly.
+  G.RaceRelation[3] = 100;
+  Add(10, G.ShipX - 40, G.ShipY).WantsTrade = True;
+  ASSERT_FALSE(RunFrames(1));
+  EXPECT_EQ(G.HailedShip, 0);
+
   G.RaceRelation[1] = 65;
   OtherShipRecord& s = Add(2, G.ShipX + 40, G.ShipY);
   s.WantsTrade = True;
@@ -238,7 +244,7 @@ TEST_F(TrafficTest, AFriendlyHumanTraderCallsOnceAndOnlyWithATranslator) {
 
   ButtonState(2, 3) = 0;
   ASSERT_FALSE(RunFrames(1));
-  EXPECT_EQ(G.HailedShip, 1);
+  EXPECT_EQ(G.HailedShip, 2);
   EXPECT_EQ(G.OrbitState, 5);
   EXPECT_EQ(ButtonState(2, 8), 1);
   EXPECT_EQ(G.PageOpen[2], 1);
@@ -249,14 +255,6 @@ TEST_F(TrafficTest, AFriendlyHumanTraderCallsOnceAndOnlyWithATranslator) {
   EXPECT_EQ(G.PromptLine[3], "COMMODITY EXCHANGE?");
   EXPECT_EQ(G.MessagePending, False);
   EXPECT_THAT(MediaLog(), ::testing::Contains(Sound(1, 3)));
-}
-
-TEST_F(TrafficTest, OtherTradersNeverCall) {
-  G.RaceRelation[3] = 100;
-  OtherShipRecord& s = Add(10, G.ShipX + 40, G.ShipY);
-  s.WantsTrade = True;
-  ASSERT_FALSE(RunFrames(3));
-  EXPECT_EQ(G.HailedShip, 0);
 }
 
 TEST_F(TrafficTest, SensorsDrawUnknownAndIdentifiedShipsButNoIdentifiedClass19) {

@@ -169,7 +169,10 @@ bool DrawBridgeUi(const BitmapSpec& spec, Canvas& cv) {
   if (StartsWith(p, "gfx/backs/")) {
     std::string_view name = p.substr(10);
     name = name.substr(0, name.size() - 4);
-    PanelBack(cv, Upper(name), seed);
+    // Lists whose summary line stands at the foot carry no title there.
+    const bool footer = name == "maint" || name == "cargo" || name == "crew" || name == "medical" ||
+                        name == "research";
+    PanelBack(cv, footer ? std::string() : Upper(name), seed);
     return true;
   }
   if (p == "gfx/cursor.bmp") {

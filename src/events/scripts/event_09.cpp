@@ -1,0 +1,85 @@
+// Story event 9, the troop landing. A military ship asks that its troops be landed. A direct
+// descent pays 6000 and costs the navigator, or pays 10000 with fire support; a scan and the
+// western vector pays 10000.
+#include "events/scripts/script.h"
+
+namespace lf {
+
+void DefineEventTextAndTemplate9() {
+  StoryEvent& e = G.EventScript[9];
+
+  Text(e, 1, {"AS YOUR SHIP IS PASSING NEAR THE PLANET A FEDERATION MILITARY",
+              "SHIP IS HAILING US ON A PRIORITY CHANNEL, CAPTAIN."});
+  Replies(e, 1, {"OPEN HAIL CHANNEL", "IGNORE THE HAIL AND RESUME PREVIOUS COURSE"});
+
+  Text(e, 2, {"A MESSAGE FROM THE MILITARY SHIP: WE ARE EXPERIENCING MALFUNCTION",
+              "OF OUR LANDING CRAFT AND OUR TROOPS ARE NEEDED ON THE PLANET AT ONCE. REBELS HAVE",
+              "TAKEN THE COLONY. WE ASK YOU TO LAND OUR TROOPS WITH YOUR LANDER. THE FEDERATION",
+              "WILL PAY YOU WELL FOR IT."});
+  Replies(e, 2, {"DECLINE THE MISSION", "ACCEPT THE MISSION"});
+
+  Text(e, 3, {"WE ARE CLOSING OUR HAIL CHANNEL, CAPTAIN."});
+  Replies(e, 3, {"ROGER THAT"});
+
+  Text(e, 4, {"WE ARE SORRY THAT REPORT YOU THAT WE ARE IN NO POSITION TO ASSIST",
+              "YOU. THE MILITARY SHIP ANSWERS SHORTLY: UNDERSTOOD. WE WILL FIND ANOTHER WAY."});
+  Replies(e, 4, {"PROCEED WITH THE PREVIOUS COURSE"});
+
+  Text(e, 5, {"COMMUNICATOR IS SENDING A MESSAGE TO THE FEDERAL MILITARY SHIP:",
+              "WE ACCEPT. THE TROOPS ARE COMMING ABOARD THE LANDER. YOUR NAVIGATOR WILL FLY THEM",
+              "DOWN. THE REBELS HAVE GUNS AROUND THE COLONY, SO WE MUST CHOOSE THE LANDING ZONE WELL."});
+  Replies(e, 5, {"PREFORM SCAN OF THE LANDING ZONE", "PROCEED WITH DIRECT DESCENT"});
+
+  Text(e, 6, {"CAPTAIN. WE ARE RECIEVING THE SCAN RESULTS OF THE POSSIBLE LANDING",
+              "ZONES. THE REBEL GUNS COVER THE NORTH AND THE EAST. THE WESTERN VECTOR IS OPEN, BUT",
+              "IT GOES OVER THE MOUNTAINS AND THE FLIGHT WILL BE HARD."});
+  Replies(e, 6, {"VERY WELL. DESCENT THE TROOPS USING THE WESTERN VECTOR.",
+                 "I DONT THINK SO. BREAK THE ENGAGEMENT."});
+
+  Text(e, 7, {"AS SOON AS DESCENT BEGINS YOU LANDER IS TAKING SOME DAMAGE CAUSED",
+              "BY THE REBEL GUNS. YOUR NAVIGATOR REPORTS: WE ARE DOWN, CAPTAIN, BUT WE ARE UNDER",
+              "HEAVY FIRE. THE TROOPS ARE READY TO GO OUT."});
+  Replies(e, 7, {"OPEN CARGO DOOR AND DEPLOY THE TROOPS",
+                 "SIGNAL THE FEDERAL SHIP THAT WE NEED FIRE SUPPORT FOR THE TROOPS"});
+
+  Text(e, 8, {"I AM SORRY BUT WE MUST ABORT THE MISSION. YOUR COMMUNICATION OFFICER",
+              "SENDS THE MESSAGE. THE MILITARY SHIP DOES NOT ANSWER."});
+  Replies(e, 8, {"COPY THAT."});
+
+  Text(e, 9, {"AS THE CARGO DOOR OPENS TROOPS ARE RUNNING OUT RIGHT INTO THE",
+              "ENEMY FIRE. THEY TAKE THE COLONY, BUT A REBEL SHELL HITS THE LANDER COCKPIT. YOUR",
+              "NAVIGATOR IS KILLED. THE FEDERATION SENDS ITS SORROW AND Š6000 FOR YOUR HELP."});
+  Replies(e, 9, {"ACKNOWLEDGED"});
+
+  Text(e, 10, {"AS THE TROOPS ARE LEAVING THE LANDER AND RUNNING INTO THE ENEMY FIRE",
+               "THE MILITARY SHIP OPENS FIRE ON THE REBEL GUNS. THE GUNS FALL SILENT ONE BY ONE AND",
+               "THE COLONY IS TAKEN. THE FEDERATION THANKS YOU AND SENDS Š10000 TO YOUR ACCOUNT."});
+  Replies(e, 10, {"ACKNOWLEGED"});
+
+  Text(e, 11, {"YOUR TACTICAL DECISION TO COORDINATE ATTACK USING THE WESTER VECOR",
+               "WAS RIGHT. THE LANDER COMES DOWN BEHIND THE REBEL LINES AND THE TROOPS TAKE THE",
+               "COLONY WITHOUT A SHOT. THE FEDERATION THANKS YOU AND SENDS Š10000 TO YOUR ACCOUNT."});
+  Replies(e, 11, {"ACKNOWLEGED"});
+}
+
+namespace {
+using namespace rule;
+// Node, where each reply leads, and what any accepted click in the node does first.
+constexpr NodeRule kRules[] = {
+    {1, {To(2), To(3)}},
+    {2, {To(4), To(5)}},
+    {3, {End()}},
+    {4, {End()}},
+    {5, {To(6), To(7)}},
+    {6, {To(11), To(8)}},
+    {7, {To(9), To(10)}},
+    {8, {End()}},
+    {9, {End()}, {AddCash(6000), EmptyPost(1)}},
+    {10, {End()}, {AddCash(10000)}},
+    {11, {End()}, {AddCash(10000)}},
+};
+}  // namespace
+
+std::span<const NodeRule> EventRules9() { return kRules; }
+
+}  // namespace lf

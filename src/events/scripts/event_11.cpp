@@ -1,0 +1,85 @@
+// Story event 11, the unknown ship. A ship of no known kind. Boarding it costs the science
+// officer, or half his health; firing on it ends the event, locking a tractor beam on it
+// destroys the player's ship.
+#include "events/scripts/script.h"
+
+namespace lf {
+
+void DefineEventTextAndTemplate11() {
+  StoryEvent& e = G.EventScript[11];
+
+  Text(e, 1, {"DURING ONE REGULAR SENSOR SWEEP YOUR COMMUNICATION OFFICER FINDS A",
+              "CONTACT THAT DOES NOT MATCH ANY KNOWN SHIP. IT IS NOT MOVING AND IT IS NOT",
+              "ANSWERING OUR HAIL."});
+  Replies(e, 1, {"MOVE US A LITTLE CLOSER TO THE OBJECT", "AVOID THE CONTACT"});
+
+  Text(e, 2, {"WE ARE NOW IN VISUAL RANGE WITH THE UNKNOWN CONTACT. IT LOOKS LIKE",
+              "A SHIP, BUT NOT OF ANY KIND WE HAVE EVER SEEN. ITS HULL IS SMOOTH AND DARK AND",
+              "THERE ARE NO LIGHTS ON IT."});
+  Replies(e, 2, {"PREFORM SCAN OF THE OBJECT",
+                 "TRY TO DOCK WITH THE OBJECT",
+                 "I DONT LIKE IT. MOVE US AWAY FROM THE OBJECT"});
+
+  Text(e, 3, {"WE ARE RESUMING PREVIOUS COURSE CAPTAIN."});
+  Replies(e, 3, {"ROGER THAT"});
+
+  Text(e, 4, {"YOUR COMMUNICATOR REPORTS: ",
+              "THE SCAN SHOWS NO LIFE SIGNS AND NO POWER, CAPTAIN. THE SHIP IS VERY OLD. THERE IS",
+              "AN OPEN AIRLOCK ON ITS SIDE, AND IT LOOKS LIKE OUR AIRLOCK COULD FIT IT."});
+  Replies(e, 4, {"TRY TO DOCK US WITH THAT SHIP", "I DONT LIKE IT. RESUME PREVIOUS COURSE"});
+
+  Text(e, 5, {"YOUR NAVIGATOR SLOWLY MOVES THE SHIP INTO DOCKING POSITION WITH THE",
+              "UNKNOWN SHIP. THE AIRLOCKS MEET AND THE CLAMPS LOCK. THE OTHER SIDE IS DARK AND COLD."});
+  Replies(e, 5, {"OPEN THE AIRLOCK AND BOARD THE SHIP", "ABORT DOCKING AND MOVE AWAY FROM THE SHIP"});
+
+  Text(e, 6, {"AS YOUR CREW ENTERS THE SHIP THEY SEE UNRECOGNIZABLE SHIP STRUCTURE.",
+              "THE WALLS ARE WARM AND THEY SEEM TO MOVE. YOUR SCIENCE OFFICER LEADS THE WAY DOWN",
+              "A LONG CORRIDOR. SOMEWHERE DEEP IN THE SHIP SOMETHING IS WAKING UP."});
+  Replies(e, 6, {"BREAK INVESTEGATION AND RETURN TO THE SHIP", "PROCEED WITH CAUTION"});
+
+  Text(e, 7, {"AS YOUR SCIENCE OFFICER WALKS DOWN THE CORRIDOR SUDDENLY HE IS",
+              "PULLED INTO THE WALL. THE CREW TRIES TO PULL HIM OUT, BUT THE WALL CLOSES OVER HIM.",
+              "HE IS GONE. THE SHIP IS ALIVE, AND THE REST OF THE TEAM RUNS BACK TO THE AIRLOCK."});
+  Replies(e, 7, {"UNDOCK AND FIRE ALL WEAPONS ON THE SHIP", "UNDOCK AND LOCK TRACTOR BEAM TO SHIP"});
+
+  Text(e, 8, {"YOUR SHIP UNDOCKS FROM THE OHTER SHIP AND MANOUVER TO THE FIRING",
+              "POSITION. ALL WEAPONS FIRE AT ONCE AND THE STRANGE SHIP BREAKS APART WITHOUT A",
+              "SOUND. NOBODY ON THE BRIDGE WANTS TO TALK ABOUT WHAT HAPPENED."});
+  Replies(e, 8, {"CONTINUE ON COURSE."});
+
+  Text(e, 9, {"YOUR SHIP UNDOCKS FROM THE OTHER SHIP AND MANOUVER IN THE TRACTOR",
+              "BEAM RANGE. THE MOMENT THE BEAM TOUCHES THE STRANGE SHIP IT PULLS THE BEAM BACK,",
+              "AND YOUR SHIP WITH IT. THE TWO HULLS MEET AND THE STRANGE SHIP CLOSES AROUND YOURS."});
+  Replies(e, 9, {"GAME OVER"});
+
+  Text(e, 10, {"AS SOON AS YOUR SHIP UNDOCKS NAVIGATOR IS ENGAGEING THE ENGINES",
+               "AND THE STRANGE SHIP FALLS BEHIND. SOON IT IS ONLY A DARK SHADOW ON THE SENSORS."});
+  Replies(e, 10, {"CONTINUE THE VOYAGE"});
+
+  Text(e, 11, {"AS YOUR CREWMEMBES ARE WALKING DOWN THE STRANGE SHIP CORRIDOR",
+               "THE WALLS START TO MOVE. THE SCIENCE OFFICER IS CAUGHT BY SOMETHING THAT COMES OUT",
+               "OF THE WALL AND IS HURT BADLY BEFORE THE TEAM GETS HIM BACK ACROSS THE AIRLOCK."});
+  Replies(e, 11, {"UNDOCK AND MOVE INTO FIRING POSITION", "UNDOCK AND MOVE INTO TRACTOR BEAM RANGE"});
+}
+
+namespace {
+using namespace rule;
+// Node, where each reply leads, and what any accepted click in the node does first.
+constexpr NodeRule kRules[] = {
+    {1, {To(2), To(3)}},
+    {2, {To(4), To(5), To(3)}},
+    {3, {End()}},
+    {4, {To(5), To(3)}},
+    {5, {To(6), To(10)}},
+    {6, {To(11), To(7)}},
+    {7, {To(8), To(9)}, {EmptyPost(5)}},
+    {8, {End()}},
+    {9, {GameOver()}},
+    {10, {End()}},
+    {11, {To(8), To(9)}, {HalveHealth(5)}},
+};
+}  // namespace
+
+std::span<const NodeRule> EventRules11() { return kRules; }
+
+}  // namespace lf
