@@ -48,13 +48,15 @@ void Resume() {
   }
 }
 
-// Load in a running game reads the position before it leaves the screen
-// under the menu: a position that cannot be read leaves the game where it
-// stood, with the reason on the bridge's strip.
+// Load in a running game reads a saved position before it leaves the
+// screen under the menu: one that cannot be read leaves the game where it
+// stood, with the reason on the bridge's strip. With nothing saved at all
+// the bridge comes up and its strip says so.
 void Load() {
   if (G.NoGameRunning == 0) {
     PlaySoundFx(4, 1);
-    const std::string problem = ReadSavedPosition(*std::make_unique<Game>(G));
+    const std::string problem =
+        SavedPositionExists() ? ReadSavedPosition(*std::make_unique<Game>(G)) : std::string();
     if (!problem.empty()) {
       if (G.BridgeActive == True && G.FightActive == 0) SetMessage("", problem, "");
       Resume();

@@ -62,23 +62,6 @@ void CheckCount(SaveReader&, int n, int hi) {
   if (n < 0 || n > hi) throw SaveFormatError("HAS A BAD COUNT");
 }
 
-// Variables the game does not keep yet: the loan's month mark, the mission
-// table and the two active missions. Their places in the files are kept with
-// a new game's values; what is read there is checked and then dropped.
-struct MissionSlot {
-  std::int16_t PlanetKind1 = 0, PlanetKind2 = 0;
-  Flag Spare1 = False;
-  std::string Title;
-  std::int16_t Flavour = 0, MissionType = 0, MinRank = 0;
-  std::string Spare2;
-  std::int16_t Guild = 0, CommodityNo = 0, CargoUnits = 0, Class = 0;
-  std::int32_t TargetX = 0, TargetY = 0;
-  std::int16_t TargetPlanet = 0;
-  std::int32_t Reward = 0;
-  std::int16_t Threat = 0, ReputationGain = 0, Tag = 0, Spare3 = 0;
-  Table<std::int32_t, 3> NavX{}, NavY{};
-};
-
 template <class IO>
 void GeneralSav(IO& io, Game& g) {
   io.I16(g.CurrentQuadrant); io.End();
@@ -89,8 +72,7 @@ void GeneralSav(IO& io, Game& g) {
   io.F(g.LoanActive); io.End();
   io.I16(g.LoanMonthsLeft); io.End();
   RealField(io, g.LoanDue); io.End();
-  Flag loanMonthMarked = False;
-  io.F(loanMonthMarked); io.End();
+  io.F(g.LoanMonthMarked); io.End();
   io.R(g.NextEventCountdown); io.End();
   io.I16(g.NextEventNumber); io.End();
   io.F(g.NoGameRunning); io.End();
@@ -260,9 +242,9 @@ void CharactersSav(IO& io, Game& g) {
 }
 
 template <class IO>
-void MissionsSav(IO& io, Game&) {
+void MissionsSav(IO& io, Game& g) {
   for (int i = 1; i <= 500; ++i) {
-    MissionSlot m;
+    auto& m = g.Missions[i];
     io.I16(m.PlanetKind1); io.End();
     io.I16(m.PlanetKind2); io.End();
     io.F(m.Spare1); io.End();
@@ -289,9 +271,8 @@ void MissionsSav(IO& io, Game&) {
     }
   }
   for (int i = 1; i <= 2; ++i) {
-    std::int16_t activeMission = 0, missionProgress = 0;
-    io.I16(activeMission); io.End();
-    io.I16(missionProgress); io.End();
+    io.I16(g.ActiveMission[i]); io.End();
+    io.I16(g.MissionProgress[i]); io.End();
   }
 }
 

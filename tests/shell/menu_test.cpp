@@ -247,8 +247,9 @@ TEST_F(Menu, LoadDuringAGameReturnsToTheBridge) {
   EXPECT_EQ(TopScreen(), Screen::Bridge);
 }
 
-TEST_F(Menu, LoadDuringAGameWithNothingSavedStaysWhereTheGameStood) {
+TEST_F(Menu, LoadDuringAGameOfADamagedPositionStaysWhereTheGameStood) {
   ScratchSaveFolder folder;
+  std::filesystem::create_directories(folder.dir / "save");  // a position with no files
   OnBridge();
   G.StatusSlot[DockedSlot].Active = True;
   G.BridgeActive = False;

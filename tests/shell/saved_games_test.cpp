@@ -6,6 +6,7 @@
 
 #include <cerrno>
 #include <chrono>
+#include <cstdint>
 #include <cstdio>
 #include <filesystem>
 #include <fstream>
@@ -185,6 +186,12 @@ class SavedGame : public LoopTest {
     G.OtherShip[3].X = 17.125;
     G.OtherShip[3].WantsTrade = True;
     G.OtherShip[3].HomeY = -40;
+    G.LoanMonthMarked = True;
+    G.Missions[500].Title = "CARRY THE, \"GOODS\"";
+    G.Missions[500].NavY[3] = -100000;
+    G.Missions[1].Reward = 2000000;
+    G.ActiveMission[2] = 500;
+    G.MissionProgress[2] = 3;
   }
 
   // What the files hold, as the JSON dump of the saved fields.
@@ -378,6 +385,50 @@ TEST_F(SavedGame, UnusableSaveFolderIsReportedOnTheStrip) {
   SaveGame();
   EXPECT_EQ(G.PromptLine[2], "POSITION NOT SAVED: SAVE FOLDER NOT WRITABLE.");
   EXPECT_EQ(G.BridgeActive, True);
+}
+
+// Saved files damaged at random, by flipped bytes, cuts and pasted-in
+// stretches: every load either succeeds or leaves the record as it was.
+TEST_F(SavedGame, RandomlyDamagedFilesNeverHalfLoad) {
+  SaveGame();
+  PositionTexts good;
+  ASSERT_EQ(FetchPosition(SaveFolder(), good), "");
+  std::uint64_t seed = 12345;
+  const auto next = [&seed](std::uint64_t n) {
+    seed = seed * 6364136223846793005ULL + 1442695040888963407ULL;
+    return static_cast<std::size_t>((seed >> 33) % n);
+  };
+  int refused = 0;
+  for (int round = 0; round < 150; ++round) {
+    const std::size_t f = next(kSaveFileCount);
+    std::string text = good[f];
+    switch (next(4)) {
+      case 0:  // flipped bytes
+        for (int k = 0; k < 3 && !text.empty(); ++k) text[next(text.size())] = static_cast<char>(next(256));
+        break;
+      case 1:  // cut short
+        text.resize(next(text.size() + 1));
+        break;
+      case 2:  // a stretch of quotes, commas and line ends
+        text.insert(next(text.size() + 1), std::string(next(8) + 1, "\",\r\n#"[next(5)]));
+        break;
+      default:  // a field taken out
+        if (const auto c = text.find(',', next(text.size() + 1)); c != std::string::npos) text.erase(c, 1);
+        break;
+    }
+    WriteFile(std::string(kSaveFileNames[f]), text);
+    G.Cash = 1;
+    if (!LoadGame()) {
+      ++refused;
+      EXPECT_EQ(G.Cash, 1) << kSaveFileNames[f] << " round " << round;
+      EXPECT_EQ(G.PromptLine[2].substr(0, 12), "CANNOT LOAD:");
+    }
+    WriteFile(std::string(kSaveFileNames[f]), good[f]);
+  }
+  EXPECT_GT(refused, 10);
+  ASSERT_TRUE(LoadGame());
+  EXPECT_EQ(G.Missions[500].Title, "CARRY THE, 'GOODS'");
+  EXPECT_EQ(G.ActiveMission[2], 500);
 }
 
 // Save and load times, printed for the record (no limits asserted: a
