@@ -215,12 +215,13 @@ TEST_F(Menu, IntroductionAndCreditsLeaveTheGameAlone) {
 struct ScratchSaveFolder {
   std::filesystem::path dir = std::filesystem::temp_directory_path() /
                               ("lanefarer_menu_save_" + std::to_string(::getpid()));
+  std::string before = SaveFolder();
   ScratchSaveFolder() {
     std::filesystem::remove_all(dir);
     SetSaveFolder((dir / "save").string());
   }
   ~ScratchSaveFolder() {
-    SetSaveFolder("save");
+    SetSaveFolder(before);
     std::filesystem::remove_all(dir);
   }
 };

@@ -13,6 +13,7 @@
 #include <memory>
 #include <sstream>
 
+#include "shell/bridge_click.h"
 #include "shell/game_state.h"
 #include "shell/prompts.h"
 #include "shell/save_folder.h"
@@ -21,12 +22,36 @@
 #include "shell/save_text.h"
 #include "shell/saved_games.h"
 #include "shell/state_json.h"
+#include "universe/bridge_buttons.h"
 #include "loop_fixture.h"
 
 namespace lf::test {
 namespace {
 
 namespace fs = std::filesystem;
+
+// Every test of the binary that reaches a save (a click that lands on the
+// save button, a Load from the menu) uses a folder of its own, never the
+// working folder, so no position leaks from one test into another.
+// Each test starts with the folder empty.
+class ScratchSaves : public ::testing::Environment {
+ public:
+  void SetUp() override {
+    fs::remove_all(Dir());
+    SetSaveFolder((Dir() / "save").string());
+    ::testing::UnitTest::GetInstance()->listeners().Append(new Emptier);
+  }
+  void TearDown() override { fs::remove_all(Dir()); }
+
+ private:
+  static fs::path Dir() {
+    return fs::temp_directory_path() / ("lanefarer_test_saves_" + std::to_string(::getpid()));
+  }
+  struct Emptier : ::testing::EmptyTestEventListener {
+    void OnTestStart(const ::testing::TestInfo&) override { fs::remove_all(Dir()); }
+  };
+};
+[[maybe_unused]] const auto* const kScratchSaves = ::testing::AddGlobalTestEnvironment(new ScratchSaves);
 
 // --- The field text ---
 
@@ -108,6 +133,7 @@ TEST(SaveText, StringsKeepTheFileParseable) {
 class SavedGame : public LoopTest {
  protected:
   fs::path dir;
+  std::string before = SaveFolder();
   void SetUp() override {
     LoopTest::SetUp();
     dir = fs::temp_directory_path() /
@@ -122,7 +148,7 @@ class SavedGame : public LoopTest {
   }
   void TearDown() override {
     InjectSaveFault(-1, 0);
-    SetSaveFolder("save");
+    SetSaveFolder(before);
     fs::remove_all(dir);
     LoopTest::TearDown();
   }
@@ -249,6 +275,22 @@ TEST_F(SavedGame, SaveLoadSaveIsByteIdentical) {
   PositionTexts second;
   ASSERT_EQ(FetchPosition(SaveFolder(), second), "");
   for (int f = 0; f < kSaveFileCount; ++f) EXPECT_EQ(first[f], second[f]) << kSaveFileNames[f];
+}
+
+TEST_F(SavedGame, TheSciencePagesSaveButtonSavesAndNotInOrbit) {
+  FillBridgeButtons();
+  G.PageOpen[5] = 1;
+  host.cursorX = 348;
+  host.cursorY = 372;
+  CheckBridgeMouseDown(1);
+  EXPECT_EQ(G.PromptLine[2], "GAME POSITION SAVED!");
+  EXPECT_TRUE(fs::exists(dir / "save" / "stations.sav"));
+  fs::remove_all(dir / "save");
+  G.MessagePending = False;
+  G.PromptLine = {};
+  G.BridgeButton[5][6].State = 2;  // as in orbit or with a hail open
+  CheckBridgeMouseDown(1);
+  EXPECT_FALSE(fs::exists(dir / "save"));
 }
 
 TEST_F(SavedGame, LoadResetsTheHailAndTheOrbitButKeepsTheButtons) {
