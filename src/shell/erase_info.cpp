@@ -20,6 +20,7 @@ void EraseShip() {
   G.AmmoLeft = {};
   G.RepairCrew = {};
   G.RepairPool = 0;
+  G.UpgradeJob = {};
   G.UnfittedComp = {};
   G.Cargo = {};
 }
@@ -67,6 +68,8 @@ void EraseProgress() {
   G.StarLaneKnown = False;
   G.NextEventCountdown = 0;
   G.NextEventNumber = 0;
+  G.ActiveMission = {};
+  G.MissionProgress = {};
   G.Cash = 0;
   G.Reputation = 0;
 }

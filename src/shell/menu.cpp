@@ -1,6 +1,9 @@
 // The main menu: its frame and its six entries.
 #include "shell/menu.h"
 
+#include <memory>
+#include <string>
+
 #include "display/bitmap_sets.h"
 #include "display/gfx.h"
 #include "display/screen.h"
@@ -8,6 +11,7 @@
 #include "shell/clocks.h"
 #include "shell/cursor.h"
 #include "shell/game_state.h"
+#include "shell/prompts.h"
 #include "shell/saved_games.h"
 #include "shell/screens.h"
 
@@ -44,9 +48,20 @@ void Resume() {
   }
 }
 
-[[noreturn]] void Load() {
+// Load in a running game reads a saved position before it leaves the
+// screen under the menu: one that cannot be read leaves the game where it
+// stood, with the reason on the bridge's strip. With nothing saved at all
+// the bridge comes up and its strip says so.
+void Load() {
   if (G.NoGameRunning == 0) {
     PlaySoundFx(4, 1);
+    const std::string problem =
+        SavedPositionExists() ? ReadSavedPosition(*std::make_unique<Game>(G)) : std::string();
+    if (!problem.empty()) {
+      if (G.BridgeActive == True && G.FightActive == 0) SetMessage("", problem, "");
+      Resume();
+      return;
+    }
     G.StatusSlot[DockedSlot].Active = False;
     if (G.BridgeActive == 0 || G.FightActive == True) {
       // The bridge bitmaps went with the station or the fight.
@@ -115,7 +130,7 @@ void CheckMenuMouseDown() {
       G.MenuActive = False;
       StartNew();
     case 2: Resume(); break;
-    case 3: Load();
+    case 3: Load(); break;
     case 4:  // Introduction
       StopTrack();
       PlayIntro();

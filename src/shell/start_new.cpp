@@ -83,7 +83,9 @@ void LoadInsteadOfOpening() {
   G.ProgressMode = 1;
   Skip(LoadMainBitmaps);
   G.ProgressMode = 0;
-  Skip(LoadGame);
+  // With nothing saved yet, Load begins the new game on the bridge without a
+  // word; a position that is there but damaged says why it was not loaded.
+  if (SavedPositionExists()) Skip(LoadGame);
 }
 
 }  // namespace

@@ -3,9 +3,15 @@
 #include "shell/menu.h"
 
 #include <gtest/gtest.h>
+#include <unistd.h>
+
+#include <filesystem>
+#include <string>
 
 #include "combat/combat_procedures.h"
 #include "loop_fixture.h"
+#include "shell/save_folder.h"
+#include "shell/saved_games.h"
 
 namespace lf::test {
 namespace {
@@ -205,8 +211,26 @@ TEST_F(Menu, IntroductionAndCreditsLeaveTheGameAlone) {
   EXPECT_EQ(TopScreen(), Screen::Bridge);
 }
 
+// A save folder of the test's own, emptied before and after.
+struct ScratchSaveFolder {
+  std::filesystem::path dir = std::filesystem::temp_directory_path() /
+                              ("lanefarer_menu_save_" + std::to_string(::getpid()));
+  std::string before = SaveFolder();
+  ScratchSaveFolder() {
+    std::filesystem::remove_all(dir);
+    SetSaveFolder((dir / "save").string());
+  }
+  ~ScratchSaveFolder() {
+    SetSaveFolder(before);
+    std::filesystem::remove_all(dir);
+  }
+};
+
 TEST_F(Menu, LoadDuringAGameReturnsToTheBridge) {
+  ScratchSaveFolder folder;
   OnBridge();
+  SaveGame();
+  G.MessagePending = False;
   G.StatusSlot[DockedSlot].Active = True;
   G.BridgeActive = False;
   G.StationActive = True;
@@ -222,6 +246,24 @@ TEST_F(Menu, LoadDuringAGameReturnsToTheBridge) {
   EXPECT_EQ(G.LoadAfterStart, False);
   EXPECT_EQ(Tracks(4), 1);
   EXPECT_EQ(TopScreen(), Screen::Bridge);
+}
+
+TEST_F(Menu, LoadDuringAGameOfADamagedPositionStaysWhereTheGameStood) {
+  ScratchSaveFolder folder;
+  std::filesystem::create_directories(folder.dir / "save");  // a position with no files
+  OnBridge();
+  G.StatusSlot[DockedSlot].Active = True;
+  G.BridgeActive = False;
+  G.StationActive = True;
+  G.MenuActive = True;
+  Enter(DrawMainMenu);
+  host.Click(300, BandY(3));
+  Frames(1);
+  EXPECT_EQ(G.StatusSlot[DockedSlot].Active, True);
+  EXPECT_EQ(G.StationActive, True);
+  EXPECT_EQ(G.BridgeActive, False);
+  EXPECT_EQ(G.MenuActive, False);
+  EXPECT_EQ(TopScreen(), Screen::Station);
 }
 
 TEST_F(Menu, ExitAndClosingTheWindowEndTheProgram) {
