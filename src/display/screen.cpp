@@ -3,6 +3,7 @@
 #include "display/blit_observer.h"
 
 #include <SDL.h>
+#include <malloc.h>
 
 #include <algorithm>
 #include <cstdio>
@@ -14,6 +15,7 @@
 #include <vector>
 
 #include "display/bitmap_sets.h"
+#include "display/bmp_decode.h"
 #include "display/bmp_header.h"
 #include "display/picture_files.h"
 #include "shell/game_state.h"
@@ -39,9 +41,47 @@ SDL_Surface* Back() {
   return g_back.get();
 }
 
+// Bitmap sets are swapped whole: the pictures of one set are freed and
+// those of the next allocated at once. Memory handed back to the system
+// comes back as fresh pages that fault in one by one, which cost more than
+// reading the pictures; so freed picture memory stays with the program, and
+// large pictures come from the same heap instead of pages of their own.
+void KeepPictureMemory() {
+  static const bool kept = [] {
+    mallopt(M_MMAP_THRESHOLD, 32 << 20);
+    mallopt(M_TRIM_THRESHOLD, 512 << 20);
+    return true;
+  }();
+  (void)kept;
+}
+
+// The game's own kinds of picture file, read straight into 5-6-5 pixels;
+// null for any other kind or a damaged coded stream, which the general
+// reader then takes.
+SDL_Surface* ReadPlainBmp(const std::vector<std::uint8_t>& bytes) {
+  const auto layout = PlainBmpLayout(bytes);
+  if (!layout) return nullptr;
+  SDL_Surface* s = SDL_CreateRGBSurfaceWithFormat(0, layout->Width, layout->Height, 16, SDL_PIXELFORMAT_RGB565);
+  if (!s) return nullptr;
+  if (!DecodePlainBmp(*layout, bytes, static_cast<std::uint16_t*>(s->pixels), static_cast<std::size_t>(s->pitch) / 2)) {
+    SDL_FreeSurface(s);
+    return nullptr;
+  }
+  return s;
+}
+
+void Keyed(SDL_Surface* s, const std::string& file) {
+  SDL_SetColorKey(s, SDL_TRUE, 0);
+  // Keyed pictures are run-length coded by SDL on their first keyed
+  // blit: transparent runs are skipped and opaque runs copied whole.
+  SDL_SetSurfaceRLE(s, 1);
+  NotePictureFile(s, file);
+}
+
 }  // namespace
 
 void InicializeDirectDraw() {
+  KeepPictureMemory();
   if (!g_back) {
     g_back.reset(SDL_CreateRGBSurfaceWithFormat(0, kScreenWidth, kScreenHeight, 16,
                                                 SDL_PIXELFORMAT_RGB565));
@@ -67,15 +107,14 @@ Bitmap LoadBitmapIntoDXS(std::string_view gamePath) {
     ReportMissing(file, why);
   } else if (const auto fault = BmpHeaderFault(*bytes)) {
     ReportMissing(file, *fault);
+  } else if (SDL_Surface* quick = ReadPlainBmp(*bytes)) {
+    Keyed(quick, file);
+    result = Bitmap::Adopt(quick);
   } else if (SDL_Surface* raw = SDL_LoadBMP_RW(SDL_RWFromConstMem(bytes->data(), static_cast<int>(bytes->size())), 1)) {
     SDL_Surface* converted = SDL_ConvertSurfaceFormat(raw, SDL_PIXELFORMAT_RGB565, 0);
     SDL_FreeSurface(raw);
     if (converted) {
-      SDL_SetColorKey(converted, SDL_TRUE, 0);
-      // Keyed pictures are run-length coded by SDL on their first keyed
-      // blit: transparent runs are skipped and opaque runs copied whole.
-      SDL_SetSurfaceRLE(converted, 1);
-      NotePictureFile(converted, file);
+      Keyed(converted, file);
       result = Bitmap::Adopt(converted);
     } else {
       ReportMissing(file, std::string("cannot convert: ") + SDL_GetError());
