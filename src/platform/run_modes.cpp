@@ -19,6 +19,7 @@
 #include "platform/sdl_host.h"
 #include "platform/settings.h"
 #include "shell/program.h"
+#include "shell/save_store.h"
 #include "shell/screenshot.h"
 
 namespace lf {
@@ -119,7 +120,10 @@ int RunWindowed(const Options& options) {
       SetClipPresenter([&host](const std::uint8_t* rgb, int w, int h) { return host.PresentClipFrame(rgb, w, h); });
     const bool sound = !Muted() && OpenAudioBackend();
     if (sound) SetAudioVolumes(settings.in_force.soundVolume, settings.in_force.musicVolume);
+    // In a window a save's wait on the disk runs beside the game.
+    SetBackgroundCommits(true);
     status = RunOn(host, options.record, host.SessionSeed());
+    WaitForCommit();
     if (sound) CloseAudioBackend();
     SetClipPresenter(nullptr);
   }

@@ -12,6 +12,7 @@
 #include "shell/game_state.h"
 #include "shell/guards.h"
 #include "shell/prompts.h"
+#include "shell/saved_games.h"
 #include "shell/screens.h"
 #include "universe/universe_procedures.h"
 
@@ -46,6 +47,7 @@ bool InFlight() { return G.OrbitState == 0 || G.OrbitState == 1; }
 void RunLoopFrame() {
   // 1-4: the repair pool, the hull cap, then the hand-overs: an event is
   // taken before a docking.
+  Skip(ReportFinishedSave);
   Skip(RecountRepairPool);
   Skip(CapHullPoints);
   Skip(EnterRaisedEvent);

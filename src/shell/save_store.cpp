@@ -5,9 +5,13 @@
 #include <unistd.h>
 
 #include <array>
+#include <atomic>
 #include <cerrno>
 #include <filesystem>
+#include <optional>
 #include <system_error>
+#include <thread>
+#include <utility>
 
 namespace lf {
 namespace {
@@ -141,21 +145,10 @@ std::string SaveMessage(int error) {
   }
 }
 
-}  // namespace
-
-void InjectSaveFault(int step, int error) {
-  g_faultStep = step;
-  g_faultError = error;
-}
-
-int SaveStepsTaken() { return g_steps; }
-
-std::string StorePosition(const std::string& folderName, const PositionTexts& texts) {
-  g_steps = 0;
-  const fs::path folder = folderName;
+// The first part of a save: the files written into the fresh folder beside
+// the save folder. Returns the strip's line on failure.
+std::string WritePositionFiles(const fs::path& folder, const PositionTexts& texts) {
   const fs::path fresh = NewFolder(folder);
-  const fs::path old = OldFolder(folder);
-  bool oldMovedAside = false;
   try {
     Recover(folder);
     if (Exists(folder) && !IsFolder(folder)) return SaveMessage(ENOTDIR);
@@ -167,14 +160,31 @@ std::string StorePosition(const std::string& folderName, const PositionTexts& te
     // What an interrupted save left: a half-written new folder, or the old
     // folder of a swap that completed.
     fs::remove_all(fresh, ec);
-    fs::remove_all(old, ec);
+    fs::remove_all(OldFolder(folder), ec);
     Check(Errno(::mkdir(fresh.c_str(), 0755) == 0));
-    {
-      std::array<OpenFile, kSaveFileCount> files;
-      for (std::size_t f = 0; f < files.size(); ++f)
-        WriteFile(files[f], fresh / std::string(kSaveFileNames[f]), texts[f]);
-      for (OpenFile& file : files) Close(file);
-    }
+    std::array<OpenFile, kSaveFileCount> files;
+    for (std::size_t f = 0; f < files.size(); ++f)
+      WriteFile(files[f], fresh / std::string(kSaveFileNames[f]), texts[f]);
+    for (OpenFile& file : files) Close(file);
+    return {};
+  } catch (const InjectedCrash&) {
+    return "POSITION NOT SAVED: INTERRUPTED.";
+  } catch (const SaveFailure& f) {
+    std::error_code ec;
+    fs::remove_all(fresh, ec);
+    return SaveMessage(f.error);
+  } catch (const fs::filesystem_error& e) {
+    return SaveMessage(e.code().value());
+  }
+}
+
+// The second part: the fresh folder made durable and put in place of the
+// old one. Touches nothing but the disk, so it may run beside the game.
+std::string CommitPositionFiles(const fs::path& folder) {
+  const fs::path fresh = NewFolder(folder);
+  const fs::path old = OldFolder(folder);
+  bool oldMovedAside = false;
+  try {
     SyncFiles(fresh);
     if (IsFolder(folder)) {
       Rename(folder, old);
@@ -187,6 +197,7 @@ std::string StorePosition(const std::string& folderName, const PositionTexts& te
     try {
       SyncFolder(folder.has_parent_path() ? folder.parent_path() : fs::path("."));
       Check(Step());
+      std::error_code ec;
       fs::remove_all(old, ec);
     } catch (const SaveFailure&) {
     }
@@ -203,12 +214,83 @@ std::string StorePosition(const std::string& folderName, const PositionTexts& te
   }
 }
 
+// The commit under way on the worker thread, if any. Only the thread
+// writes `result`, and only after `done`; the game reads it after joining.
+struct Commit {
+  std::thread worker;
+  std::atomic<bool> done{false};
+  std::string result;
+  // The last commit's failure not yet reported.
+  std::optional<std::string> failure;
+
+  void Join() {
+    if (!worker.joinable()) return;
+    worker.join();
+    if (!result.empty()) failure = result;
+  }
+  // The program's last save reaches the disk before the program ends.
+  ~Commit() {
+    if (worker.joinable()) worker.join();
+  }
+};
+
+Commit& TheCommit() {
+  static Commit commit;
+  return commit;
+}
+
+bool g_background = false;
+
+}  // namespace
+
+void InjectSaveFault(int step, int error) {
+  g_faultStep = step;
+  g_faultError = error;
+}
+
+int SaveStepsTaken() { return g_steps; }
+
+void SetBackgroundCommits(bool on) { g_background = on; }
+
+void WaitForCommit() { TheCommit().Join(); }
+
+std::optional<std::string> FinishedCommitFailure() {
+  Commit& c = TheCommit();
+  if (c.worker.joinable() && c.done.load(std::memory_order_acquire)) c.Join();
+  if (c.worker.joinable()) return std::nullopt;
+  return std::exchange(c.failure, std::nullopt);
+}
+
+std::string StorePosition(const std::string& folderName, const PositionTexts& texts) {
+  WaitForCommit();
+  TheCommit().failure.reset();  // this save's outcome is the one to tell
+  g_steps = 0;
+  const fs::path folder = folderName;
+  if (std::string problem = WritePositionFiles(folder, texts); !problem.empty()) return problem;
+  if (!g_background) return CommitPositionFiles(folder);
+  Commit& c = TheCommit();
+  c.done.store(false, std::memory_order_relaxed);
+  c.result.clear();
+  try {
+    c.worker = std::thread([&c, folder] {
+      c.result = CommitPositionFiles(folder);
+      c.done.store(true, std::memory_order_release);
+    });
+  } catch (const std::system_error&) {
+    // No thread to be had: the commit is done here and now.
+    return CommitPositionFiles(folder);
+  }
+  return {};
+}
+
 bool PositionStands(const std::string& folderName) {
+  WaitForCommit();
   Recover(folderName);
   return Exists(folderName);
 }
 
 std::string FetchPosition(const std::string& folderName, PositionTexts& texts) {
+  WaitForCommit();
   const fs::path folder = folderName;
   Recover(folder);
   if (Exists(folder) && !IsFolder(folder)) return "CANNOT LOAD: SAVE FOLDER IS A FILE.";

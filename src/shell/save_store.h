@@ -4,6 +4,7 @@
 // position: the old or the new.
 #pragma once
 
+#include <optional>
 #include <string>
 
 #include "shell/save_layout.h"
@@ -11,8 +12,21 @@
 namespace lf {
 
 // Writes the files as the position in `folder`. Returns an empty string when
-// the position stands, else one line for the prompt strip.
+// the position stands (or, with background commits, is on its way to
+// standing), else one line for the prompt strip.
 std::string StorePosition(const std::string& folder, const PositionTexts& texts);
+
+// A save writes its files at once; making them durable and putting them in
+// place waits on the disk for tens of milliseconds. With background commits
+// on (the game in a window) that part runs on a worker thread and the frame
+// goes on; the old position stands until the new one is whole. Every other
+// step on the save folder, and the program's end, waits for it first.
+// Off by default, so that headless runs stay reproducible.
+void SetBackgroundCommits(bool on);
+void WaitForCommit();
+// The line of a background commit that failed, once it has finished;
+// nothing while one is under way or when none failed.
+std::optional<std::string> FinishedCommitFailure();
 
 // Reads the position from `folder` into `texts`. Returns an empty string on
 // success, else one line for the prompt strip.

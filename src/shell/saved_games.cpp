@@ -22,6 +22,10 @@ void SaveGame() {
   G.BridgeActive = True;
 }
 
+void ReportFinishedSave() {
+  if (const auto failure = FinishedCommitFailure()) SetMessage("", *failure, "");
+}
+
 bool SavedPositionExists() { return PositionStands(SaveFolder()); }
 
 std::string ReadSavedPosition(Game& into) {

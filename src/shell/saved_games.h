@@ -12,6 +12,9 @@ void EraseInfo();
 // Writes the position; a failure leaves the previous one and says why on
 // the prompt strip.
 void SaveGame();
+// A save finishing beside the game that failed after all: its line
+// replaces "GAME POSITION SAVED!" on the strip. Called every bridge frame.
+void ReportFinishedSave();
 // Reads the position back; on any failure the record stays as it was, the
 // prompt strip says why, and the result is false.
 bool LoadGame();
