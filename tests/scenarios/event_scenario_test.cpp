@@ -10,44 +10,14 @@
 
 #include <nlohmann/json.hpp>
 
+#include "support/scenario_folder.h"
+
 namespace {
 
 namespace fs = std::filesystem;
 using nlohmann::json;
 
-class EventScenario : public ::testing::Test {
- protected:
-  void SetUp() override {
-    dir = fs::temp_directory_path() / ("lanefarer_event_scenario_" + std::to_string(::getpid()));
-    fs::remove_all(dir);
-    fs::create_directories(dir);
-    for (const char* name : {"event_plague.txt", "event_plague.json", "one_officer.json"})
-      fs::copy_file(fs::path(LANEFARER_SCENARIOS) / name, dir / name);
-  }
-  void TearDown() override { fs::remove_all(dir); }
-
-  int Run(const std::string& script) {
-    const char* d = std::getenv("LANEFARER_TEST_DATA");
-    const std::string data = d ? d : "/nonexistent-lanefarer-data";
-    const std::string cmd = "cd '" + dir.string() + "' && '" LANEFARER_BINARY "' --headless --seed 5 --data '" + data +
-                            "' --save-dir '" + (dir / "save").string() + "' --script " + script +
-                            " > out.txt 2> err.txt";
-    const int raw = std::system(cmd.c_str());
-    return WIFEXITED(raw) ? WEXITSTATUS(raw) : -1;
-  }
-  json Dump(const std::string& name) const {
-    std::ifstream f(dir / name);
-    EXPECT_TRUE(f) << name;
-    return json::parse(f);
-  }
-  std::string Err() const {
-    std::ifstream f(dir / "err.txt");
-    std::stringstream s;
-    s << f.rdbuf();
-    return s.str();
-  }
-
-  fs::path dir;
+class EventScenario : public lf::test::ScenarioFolderTest {
 };
 
 TEST_F(EventScenario, ThePlagueStationIsWalkedByItsBandsToItsEnd) {

@@ -11,43 +11,14 @@
 
 #include <nlohmann/json.hpp>
 
+#include "support/scenario_folder.h"
+
 namespace {
 
 namespace fs = std::filesystem;
 using nlohmann::json;
 
-class FirstVoyage : public ::testing::Test {
- protected:
-  void SetUp() override {
-    dir = fs::temp_directory_path() / ("lanefarer_first_voyage_" + std::to_string(::getpid()));
-    fs::remove_all(dir);
-    fs::create_directories(dir);
-    fs::copy_file(fs::path(LANEFARER_SCENARIOS) / "first_voyage.txt", dir / "first_voyage.txt");
-  }
-  void TearDown() override { fs::remove_all(dir); }
-
-  int Run(const std::string& seed) {
-    const char* data = std::getenv("LANEFARER_TEST_DATA");
-    const std::string cmd = "cd '" + dir.string() + "' && '" LANEFARER_BINARY "' --headless --seed " + seed +
-                            " --data '" + std::string(data ? data : "/nonexistent-lanefarer-data") +
-                            "' --save-dir '" + (dir / "save").string() +
-                            "' --script first_voyage.txt > out.txt 2> err.txt";
-    const int raw = std::system(cmd.c_str());
-    return WIFEXITED(raw) ? WEXITSTATUS(raw) : -1;
-  }
-  json Dump(const std::string& name) const {
-    std::ifstream f(dir / name);
-    EXPECT_TRUE(f) << name;
-    return f ? json::parse(f) : json::object();
-  }
-  std::string Err() const {
-    std::ifstream f(dir / "err.txt");
-    std::stringstream s;
-    s << f.rdbuf();
-    return s.str();
-  }
-
-  fs::path dir;
+class FirstVoyage : public lf::test::ScenarioFolderTest {
 };
 
 // The one post that holds somebody, 0 if none or several.
@@ -62,7 +33,7 @@ int OnlyFilledPost(const json& state) {
 }
 
 TEST_F(FirstVoyage, ANewCaptainBuysAShipHiresAnOfficerAndFlies) {
-  ASSERT_EQ(Run("5"), 0) << Err();
+  ASSERT_EQ(Run("first_voyage.txt", "5"), 0) << Err();
 
   const json welcome = Dump("welcome.json");
   EXPECT_EQ(welcome["TermPrompt"], 0);

@@ -13,46 +13,18 @@
 
 #include <nlohmann/json.hpp>
 
+#include "support/scenario_folder.h"
+
 namespace {
 
 namespace fs = std::filesystem;
 using nlohmann::json;
 
-class HelmScenario : public ::testing::Test {
+class HelmScenario : public lf::test::ScenarioFolderTest {
  protected:
   void SetUp() override {
-    if (!std::getenv("LANEFARER_TEST_DATA")) GTEST_SKIP() << "the voyage needs the generated quadrant art";
-    const auto* info = ::testing::UnitTest::GetInstance()->current_test_info();
-    dir = fs::temp_directory_path() / ("lanefarer_helm_" + std::string(info->name()) + "_" +
-                                       std::to_string(::getpid()));
-    fs::remove_all(dir);
-    fs::create_directories(dir);
-    for (const char* f : {"helm_ship.json", "helm_voyage.txt", "one_officer.json"})
-      fs::copy_file(fs::path(LANEFARER_SCENARIOS) / f, dir / f);
-  }
-  void TearDown() override {
-    if (!dir.empty()) fs::remove_all(dir);
-  }
-
-  void Write(const std::string& name, const std::string& text) const { std::ofstream(dir / name) << text; }
-
-  int Run(const std::string& script) {
-    const std::string cmd = "cd '" + dir.string() + "' && '" LANEFARER_BINARY "' --headless --seed 5 --data '" +
-                            std::getenv("LANEFARER_TEST_DATA") + "' --save-dir '" + (dir / "save").string() +
-                            "' --script " + script + " > out.txt 2> err.txt";
-    const int raw = std::system(cmd.c_str());
-    return WIFEXITED(raw) ? WEXITSTATUS(raw) : -1;
-  }
-  json Dump(const std::string& name) const {
-    std::ifstream f(dir / name);
-    EXPECT_TRUE(f) << name;
-    return f ? json::parse(f) : json::object();
-  }
-  std::string Err() const {
-    std::ifstream f(dir / "err.txt");
-    std::stringstream s;
-    s << f.rdbuf();
-    return s.str();
+    if (!HaveData()) GTEST_SKIP() << "the voyage needs the generated quadrant art";
+    ScenarioFolderTest::SetUp();
   }
 
   // The start of every script: the bridge after Load, the fitted ship, the
@@ -60,8 +32,6 @@ class HelmScenario : public ::testing::Test {
   static std::string OnTheBridge() {
     return "frames 3\nrestore one_officer.json\nclick 320 270\nframes 5\nrestore helm_ship.json\nframes 2\nclick 60 80\nframes 2\n";
   }
-
-  fs::path dir;
 };
 
 TEST_F(HelmScenario, TheAutopilotFliesToAStationOrbitsDocksDepartsAndDocksAtASecond) {

@@ -11,48 +11,18 @@
 
 #include <nlohmann/json.hpp>
 
+#include "support/scenario_folder.h"
+
 namespace {
 
 namespace fs = std::filesystem;
 using nlohmann::json;
 
-class MissionsScenario : public ::testing::Test {
+class MissionsScenario : public lf::test::ScenarioFolderTest {
  protected:
-  void SetUp() override {
-    const auto* info = ::testing::UnitTest::GetInstance()->current_test_info();
-    dir = fs::temp_directory_path() / ("lanefarer_missions_" + std::string(info->name()) + "_" + std::to_string(::getpid()));
-    fs::remove_all(dir);
-    fs::create_directories(dir);
-    for (const auto& entry : fs::directory_iterator(LANEFARER_SCENARIOS))
-      if (entry.path().filename().string().rfind("missions_", 0) == 0) fs::copy_file(entry.path(), dir / entry.path().filename());
-  }
-  void TearDown() override { fs::remove_all(dir); }
-
-  int Run(const std::string& script) {
-    const char* data = std::getenv("LANEFARER_TEST_DATA");
-    const std::string cmd = "cd '" + dir.string() + "' && '" LANEFARER_BINARY "' --headless --seed 5 --data '" +
-                            std::string(data ? data : "/nonexistent-lanefarer-data") + "' --save-dir '" +
-                            (dir / "save").string() + "' --script " + script + " > out.txt 2> err.txt";
-    const int raw = std::system(cmd.c_str());
-    return WIFEXITED(raw) ? WEXITSTATUS(raw) : -1;
-  }
-  json Dump(const std::string& name) const {
-    std::ifstream f(dir / name);
-    EXPECT_TRUE(f) << name;
-    return f ? json::parse(f) : json::object();
-  }
-  std::string Err() const {
-    std::ifstream f(dir / "err.txt");
-    std::stringstream s;
-    s << f.rdbuf();
-    return s.str();
-  }
-
   // A crewless new game on the bridge dies before its first restore (the
   // crew's loss ends the game): the flight scenarios cannot start then.
   static bool DiedBeforeTheRestore(const json& dump) { return dump["StatusSlot"][13]["Active"] == -1; }
-
-  fs::path dir;
 };
 
 TEST_F(MissionsScenario, TheLoungeBoardIsDealtAtDockingAndItsOffersObeyTheirTests) {

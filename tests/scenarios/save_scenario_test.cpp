@@ -11,6 +11,8 @@
 
 #include <nlohmann/json.hpp>
 
+#include "support/scenario_folder.h"
+
 #include "shell/save_layout.h"
 #include "shell/save_store.h"
 #include "shell/state_json.h"
@@ -20,33 +22,11 @@ namespace {
 namespace fs = std::filesystem;
 using nlohmann::json;
 
-class SaveScenario : public ::testing::Test {
+class SaveScenario : public lf::test::ScenarioFolderTest {
  protected:
-  fs::path dir;
   void SetUp() override {
-    if (!std::getenv("LANEFARER_TEST_DATA")) GTEST_SKIP() << "the bridge needs the generated art";
-    const auto* info = ::testing::UnitTest::GetInstance()->current_test_info();
-    dir = fs::temp_directory_path() / ("lanefarer_save_" + std::string(info->name()) + "_" +
-                                       std::to_string(::getpid()));
-    fs::remove_all(dir);
-    fs::create_directories(dir);
-    for (const char* f : {"helm_ship.json", "save_load.txt", "load_menu.txt"})
-      fs::copy_file(fs::path(LANEFARER_SCENARIOS) / f, dir / f);
-  }
-  void TearDown() override {
-    if (!dir.empty()) fs::remove_all(dir);
-  }
-  int Run(const std::string& script) {
-    const std::string cmd = "cd '" + dir.string() + "' && '" LANEFARER_BINARY "' --headless --seed 5 --data '" +
-                            std::getenv("LANEFARER_TEST_DATA") + "' --save-dir '" + (dir / "save").string() +
-                            "' --script " + script + " > out.txt 2> err.txt";
-    const int raw = std::system(cmd.c_str());
-    return WIFEXITED(raw) ? WEXITSTATUS(raw) : -1;
-  }
-  json Dump(const std::string& name) const {
-    std::ifstream f(dir / name);
-    EXPECT_TRUE(f) << name;
-    return f ? json::parse(f) : json::object();
+    if (!HaveData()) GTEST_SKIP() << "the bridge needs the generated art";
+    ScenarioFolderTest::SetUp();
   }
 };
 

@@ -10,59 +10,17 @@
 
 #include <nlohmann/json.hpp>
 
+#include "support/scenario_folder.h"
+
 namespace {
 
 namespace fs = std::filesystem;
 using nlohmann::json;
 
-// A scratch folder holding copies of the scenario files, where a script's
-// relative paths land.
-class Scenario : public ::testing::Test {
- protected:
-  void SetUp() override {
-    const auto* info = ::testing::UnitTest::GetInstance()->current_test_info();
-    dir = fs::temp_directory_path() / ("lanefarer_scenario_" + std::string(info->name()) + "_" +
-                                       std::to_string(::getpid()));
-    fs::remove_all(dir);
-    fs::create_directories(dir);
-    for (const auto& entry : fs::directory_iterator(LANEFARER_SCENARIOS))
-      if (entry.path().extension() == ".txt" || entry.path().extension() == ".json")
-        fs::copy_file(entry.path(), dir / entry.path().filename());
-  }
-  void TearDown() override { fs::remove_all(dir); }
-
-  // The data folder: the generated set when the build has one, else none.
-  static std::string Data() {
-    const char* d = std::getenv("LANEFARER_TEST_DATA");
-    return d ? d : "/nonexistent-lanefarer-data";
-  }
-
-  int Run(const std::string& script, const std::string& seed = "5", const std::string& data = Data(),
-          const std::string& extra = "") {
-    const std::string cmd = "cd '" + dir.string() + "' && '" LANEFARER_BINARY "' --headless " + extra + " --seed " + seed +
-                            " --data '" + data + "' --save-dir '" + (dir / "save").string() + "' --script " +
-                            script + " > out.txt 2> err.txt";
-    const int raw = std::system(cmd.c_str());
-    return WIFEXITED(raw) ? WEXITSTATUS(raw) : -1;
-  }
-
-  json Dump(const std::string& name) const {
-    std::ifstream f(dir / name);
-    EXPECT_TRUE(f) << name;
-    return json::parse(f);
-  }
-  std::string Bytes(const std::string& name) const {
-    std::ifstream f(dir / name, std::ios::binary);
-    std::stringstream s;
-    s << f.rdbuf();
-    return s.str();
-  }
-
-  fs::path dir;
-};
+class Scenario : public lf::test::ScenarioFolderTest {};
 
 TEST_F(Scenario, NewGameWaitsOnTheOpeningPictureThenDocks) {
-  ASSERT_EQ(Run("new_game.txt"), 0) << Bytes("err.txt");
+  ASSERT_EQ(Run("new_game.txt"), 0) << Text("err.txt");
   const json picture = Dump("picture.json");
   EXPECT_EQ(picture["MenuActive"], 0);
   EXPECT_EQ(picture["BridgeActive"], -1);
@@ -89,18 +47,18 @@ TEST_F(Scenario, NewGameWaitsOnTheOpeningPictureThenDocks) {
 
 TEST_F(Scenario, SameSeedSameGameToTheByte) {
   ASSERT_EQ(Run("new_game.txt", "11"), 0);
-  const std::string dump = Bytes("docked.json"), shot = Bytes("docked.png"), menu = Bytes("menu.png");
+  const std::string dump = Text("docked.json"), shot = Text("docked.png"), menu = Text("menu.png");
   ASSERT_EQ(Run("new_game.txt", "11"), 0);
-  EXPECT_EQ(Bytes("docked.json"), dump);
-  EXPECT_EQ(Bytes("docked.png"), shot);
-  EXPECT_EQ(Bytes("menu.png"), menu);
+  EXPECT_EQ(Text("docked.json"), dump);
+  EXPECT_EQ(Text("docked.png"), shot);
+  EXPECT_EQ(Text("menu.png"), menu);
   EXPECT_FALSE(menu.empty());
   ASSERT_EQ(Run("new_game.txt", "12"), 0);
-  EXPECT_NE(Bytes("docked.json"), dump);  // another seed, another quadrant
+  EXPECT_NE(Text("docked.json"), dump);  // another seed, another quadrant
 }
 
 TEST_F(Scenario, LoadBeforeAnyGameStartsOneWithoutThePictureAndEscapeResumes) {
-  ASSERT_EQ(Run("load_before_game.txt"), 0) << Bytes("err.txt");
+  ASSERT_EQ(Run("load_before_game.txt"), 0) << Text("err.txt");
   const json ignored = Dump("resume_ignored.json");
   EXPECT_EQ(ignored["MenuActive"], -1);
   EXPECT_EQ(ignored["NoGameRunning"], -1);
@@ -126,7 +84,7 @@ TEST_F(Scenario, LoadBeforeAnyGameStartsOneWithoutThePictureAndEscapeResumes) {
 }
 
 TEST_F(Scenario, SecondPageNeedsTwoOksAndAQuestionReplacesAMessage) {
-  ASSERT_EQ(Run("second_page.txt"), 0) << Bytes("err.txt");
+  ASSERT_EQ(Run("second_page.txt"), 0) << Text("err.txt");
   const json first = Dump("first_ok.json");
   EXPECT_EQ(first["MessagePending"], -1);
   EXPECT_EQ(first["PromptLine"][1], "_SECOND PAGE");
@@ -143,11 +101,11 @@ TEST_F(Scenario, SecondPageNeedsTwoOksAndAQuestionReplacesAMessage) {
 }
 
 TEST_F(Scenario, AMissingDataFolderStillReachesTheMenu) {
-  ASSERT_EQ(Run("idle_menu.txt", "5", "/nonexistent-lanefarer-data"), 0) << Bytes("err.txt");
+  ASSERT_EQ(Run("idle_menu.txt", "5", "/nonexistent-lanefarer-data"), 0) << Text("err.txt");
   const json menu = Dump("menu.json");
   EXPECT_EQ(menu["MenuActive"], -1);
   EXPECT_EQ(menu["NoGameRunning"], -1);
-  EXPECT_FALSE(Bytes("menu.png").empty());
+  EXPECT_FALSE(Text("menu.png").empty());
 }
 
 TEST_F(Scenario, TheGeneratedDataHoldsEveryPictureAPlayThroughAsksFor) {
@@ -162,9 +120,9 @@ TEST_F(Scenario, TheGeneratedDataHoldsEveryPictureAPlayThroughAsksFor) {
       f << "click " << face << "\nframes 3\n";
     f << "dump tour.json\n";
   }
-  ASSERT_EQ(Run("tour.txt", "5", Data(), "--verbose"), 0) << Bytes("err.txt");
-  EXPECT_EQ(Bytes("err.txt").find("missing"), std::string::npos) << Bytes("err.txt");
-  EXPECT_EQ(Bytes("err.txt").find("unreadable"), std::string::npos) << Bytes("err.txt");
+  ASSERT_EQ(Run("tour.txt", "5", Data(), "--verbose"), 0) << Text("err.txt");
+  EXPECT_EQ(Text("err.txt").find("missing"), std::string::npos) << Text("err.txt");
+  EXPECT_EQ(Text("err.txt").find("unreadable"), std::string::npos) << Text("err.txt");
   EXPECT_EQ(Dump("tour.json")["BridgeActive"], -1);
 }
 
@@ -173,7 +131,7 @@ TEST_F(Scenario, BadScriptsAndCommandLinesEndWithStatusTwo) {
     std::ofstream(dir / "bad.txt") << "frames 2\nfly 3 4\n";
   }
   EXPECT_EQ(Run("bad.txt"), 2);
-  EXPECT_NE(Bytes("err.txt").find("script:2:"), std::string::npos) << Bytes("err.txt");
+  EXPECT_NE(Text("err.txt").find("script:2:"), std::string::npos) << Text("err.txt");
   {
     std::ofstream(dir / "bad_restore.txt") << "restore missing.json\n";
   }
@@ -184,7 +142,7 @@ TEST_F(Scenario, BadScriptsAndCommandLinesEndWithStatusTwo) {
 }
 
 TEST_F(Scenario, AWholeFightFromTheAttackClickToVictoryAndBackToTheBridge) {
-  ASSERT_EQ(Run("fight.txt"), 0) << Bytes("err.txt");
+  ASSERT_EQ(Run("fight.txt"), 0) << Text("err.txt");
   const json start = Dump("start.json");
   EXPECT_EQ(start["FightActive"], -1);
   EXPECT_EQ(start["FightShip"], 1);
@@ -224,8 +182,8 @@ TEST_F(Scenario, AWholeFightFromTheAttackClickToVictoryAndBackToTheBridge) {
   int wrecks = 0;
   for (const json& d : end["Debris"]) wrecks += d["Visible"] == -1;
   EXPECT_EQ(wrecks, 1);
-  EXPECT_NE(Bytes("missile.png"), Bytes("explosion.png"));
-  EXPECT_FALSE(Bytes("end.png").empty());
+  EXPECT_NE(Text("missile.png"), Text("explosion.png"));
+  EXPECT_FALSE(Text("end.png").empty());
 }
 
 }  // namespace

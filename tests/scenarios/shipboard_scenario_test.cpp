@@ -10,43 +10,14 @@
 
 #include <nlohmann/json.hpp>
 
+#include "support/scenario_folder.h"
+
 namespace {
 
 namespace fs = std::filesystem;
 using nlohmann::json;
 
-class ShipboardScenario : public ::testing::Test {
- protected:
-  void SetUp() override {
-    dir = fs::temp_directory_path() / ("lanefarer_shipboard_" + std::to_string(::getpid()));
-    fs::remove_all(dir);
-    fs::create_directories(dir);
-    for (const char* name : {"shipboard.txt", "shipboard.json"})
-      fs::copy_file(fs::path(LANEFARER_SCENARIOS) / name, dir / name);
-  }
-  void TearDown() override { fs::remove_all(dir); }
-
-  int Run(const std::string& script) {
-    const char* data = std::getenv("LANEFARER_TEST_DATA");
-    const std::string cmd = "cd '" + dir.string() + "' && '" LANEFARER_BINARY "' --headless --seed 5 --data '" +
-                            (data ? data : "/nonexistent-lanefarer-data") + "' --save-dir '" +
-                            (dir / "save").string() + "' --script " + script + " > out.txt 2> err.txt";
-    const int raw = std::system(cmd.c_str());
-    return WIFEXITED(raw) ? WEXITSTATUS(raw) : -1;
-  }
-  json Dump(const std::string& name) const {
-    std::ifstream f(dir / name);
-    EXPECT_TRUE(f) << name;
-    return json::parse(f);
-  }
-  std::string Errors() const {
-    std::ifstream f(dir / "err.txt");
-    std::stringstream s;
-    s << f.rdbuf();
-    return s.str();
-  }
-
-  fs::path dir;
+class ShipboardScenario : public lf::test::ScenarioFolderTest {
 };
 
 int InfectedCount(const json& state) {
@@ -57,7 +28,7 @@ int InfectedCount(const json& state) {
 }
 
 TEST_F(ShipboardScenario, AMonthTurnsARepairEndsAndAQuarantinedOfficerIsCured) {
-  ASSERT_EQ(Run("shipboard.txt"), 0) << Errors();
+  ASSERT_EQ(Run("shipboard.txt"), 0) << Err();
 
   // 1 FEB: the navigator is paid, the medical officer cannot be (the payments
   // stop there), the engineer is paid on the next frame with the last cash.

@@ -11,47 +11,19 @@
 
 #include <nlohmann/json.hpp>
 
+#include "support/scenario_folder.h"
+
 namespace {
 
 namespace fs = std::filesystem;
 using nlohmann::json;
 
-class TrafficScenario : public ::testing::Test {
+class TrafficScenario : public lf::test::ScenarioFolderTest {
  protected:
   void SetUp() override {
-    const auto* info = ::testing::UnitTest::GetInstance()->current_test_info();
-    dir = fs::temp_directory_path() /
-          ("lanefarer_traffic_" + std::string(info->name()) + "_" + std::to_string(::getpid()));
-    fs::remove_all(dir);
-    fs::create_directories(dir);
-    for (const auto& entry : fs::directory_iterator(LANEFARER_SCENARIOS))
-      if (entry.path().extension() == ".txt" || entry.path().extension() == ".json")
-        fs::copy_file(entry.path(), dir / entry.path().filename());
+    ScenarioFolderTest::SetUp();
+    environment = "ASAN_OPTIONS=detect_leaks=0";
   }
-  void TearDown() override { fs::remove_all(dir); }
-
-  int Run(const std::string& script) {
-    const char* data = std::getenv("LANEFARER_TEST_DATA");
-    const std::string cmd = "cd '" + dir.string() + "' && ASAN_OPTIONS=detect_leaks=0 '" LANEFARER_BINARY
-                            "' --headless --seed 5 --data '" +
-                            std::string(data ? data : "/nonexistent-lanefarer-data") + "' --save-dir '" +
-                            (dir / "save").string() + "' --script " + script + " > out.txt 2> err.txt";
-    const int raw = std::system(cmd.c_str());
-    return WIFEXITED(raw) ? WEXITSTATUS(raw) : -1;
-  }
-  json Dump(const std::string& name) const {
-    std::ifstream f(dir / name);
-    EXPECT_TRUE(f) << name;
-    return json::parse(f);
-  }
-  std::string Err() const {
-    std::ifstream f(dir / "err.txt");
-    std::stringstream s;
-    s << f.rdbuf();
-    return s.str();
-  }
-
-  fs::path dir;
 };
 
 TEST_F(TrafficScenario, AFriendlyTraderCallsIsGreetedTradesAndTheLinkCloses) {
