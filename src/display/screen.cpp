@@ -168,10 +168,6 @@ bool BltFast(int x, int y, const Bitmap& bitmap, bool keyed) {
   return SDL_LowerBlit(src, &s, Back(), &d) == 0;
 }
 
-void KeepUncoded(const Bitmap& bitmap) {
-  if (SDL_Surface* s = bitmap.Surface()) SDL_SetSurfaceRLE(s, 0);
-}
-
 void FlipBuffers() {
   SDL_Surface* back = Back();
   CurrentHost().Present(BackPixels(), back->pitch);

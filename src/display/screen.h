@@ -20,9 +20,6 @@ void InicializeDirectDraw();
 // A missing or unreadable file gives an empty handle.
 Bitmap LoadBitmapIntoDXS(std::string_view gamePath);
 
-// Drops the run-length coding of a keyed sheet that is read a small cell at
-// a time (a font): a coded sheet is walked from its top row at every blit.
-void KeepUncoded(const Bitmap& bitmap);
 
 // The shared source rectangle, set before every blit.
 void SetSrc(int left, int top, int right, int bottom);

@@ -57,7 +57,7 @@ void c_EnterEvent() {
   GFX.EventPicture = LoadBitmapIntoDXS("\\gfx\\events\\" + std::to_string(e) + "\\1.bmp");
   GFX.EventBackground = LoadBitmapIntoDXS("\\gfx\\events\\back.bmp");
   GFX.StationFontOcr = LoadBitmapIntoDXS("\\gfx\\station\\a_fonts\\ocr.bmp");
-  KeepUncoded(GFX.StationFontOcr);
+  GFX.StationFontOcr.KeepPlainRows();
   a_ClearTermScreen();
   c_EventLoop();
 }
