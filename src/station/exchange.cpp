@@ -6,6 +6,7 @@
 #include "media/media.h"
 #include "shell/game_state.h"
 #include "station/station_common.h"
+#include "station/station_lines.h"
 #include "station/station_procedures.h"
 #include "station/station_text.h"
 #include "universe/stocks.h"
@@ -18,7 +19,7 @@ constexpr int kRows = 14;
 int RowTop(int i) { return 119 + 19 * (i - 1); }
 int BandTop(int i) { return 113 + 19 * (i - 1); }
 bool InBand(int i, int y) { return y > BandTop(i) && y < BandTop(i) + 20; }
-int RowShade(int i) { return InBand(i, G.MouseY) ? kOcrLitRows : 0; }
+int RowShade(int i) { return InBand(i, G.MouseY) ? kBrightRow : 0; }
 
 // What the station asks for one unit: a tenth above its price, one credit
 // more under 10.
@@ -103,15 +104,15 @@ void BuyTen(std::int16_t& c, std::int16_t& s, double p) {
 
 void a_DrawCommodityNames() {
   if (Store() == nullptr) return;
-  for (int i = 1; i <= kRows; ++i) DrawOcrTextCentred(320, RowTop(i), CommodityName(i), i, RowShade(i));
+  for (int i = 1; i <= kRows; ++i) DrawFadeTextCentred(320, RowTop(i), CommodityName(i), i, RowShade(i));
 }
 
 void a_DrawStockStates() {
   StationStockRecord* store = Store();
   if (store == nullptr) return;
   for (int i = 1; i <= kRows; ++i) {
-    DrawOcrTextRight(74, RowTop(i), std::to_string(store->Quantity[i]), i, RowShade(i));
-    DrawOcrTextRight(588, RowTop(i), std::to_string(G.Cargo[i]), i, RowShade(i));
+    DrawFadeTextRight(74, RowTop(i), NumberText(store->Quantity[i]).View(), i, RowShade(i));
+    DrawFadeTextRight(588, RowTop(i), NumberText(G.Cargo[i]).View(), i, RowShade(i));
   }
 }
 
@@ -120,8 +121,8 @@ void a_DrawStockPrices() {
   if (store == nullptr) return;
   for (int i = 1; i <= kRows; ++i) {
     const double p = store->StationPrice[i];
-    DrawOcrTextRight(199, RowTop(i), Whole(p), i, RowShade(i));
-    DrawOcrTextRight(458, RowTop(i), Whole(BuyingPrice(p)), i, RowShade(i));
+    DrawFadeTextRight(199, RowTop(i), Whole(p), i, RowShade(i));
+    DrawFadeTextRight(458, RowTop(i), Whole(BuyingPrice(p)), i, RowShade(i));
   }
 }
 

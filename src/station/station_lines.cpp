@@ -1,6 +1,7 @@
 #include "station/station_lines.h"
 
 #include <cstdio>
+#include <type_traits>
 
 #include "display/gfx.h"
 #include "display/screen.h"
@@ -11,11 +12,12 @@ namespace lf {
 
 namespace {
 
+// A letter past the fade table's lines or columns never shows.
 double FadeState(int line, int letter) {
   if (line == 0) return 3;
-  double state = 0;
-  Skip([&] { state = G.PromptFade[line][letter]; });
-  return state;
+  if (!decltype(G.PromptFade)::InBounds(line)) return 0;
+  const auto& fade = G.PromptFade[line];
+  return std::remove_reference_t<decltype(fade)>::InBounds(letter) ? fade[letter] : 0;
 }
 
 }  // namespace
@@ -46,6 +48,10 @@ void DrawFadeText(int x, int y, std::string_view text, int fadeLine, int rowOffs
 
 void DrawFadeTextRight(int right, int y, std::string_view text, int fadeLine, int rowOffset) {
   DrawFadeText(right - 6 * CodePointCount(text), y, text, fadeLine, rowOffset);
+}
+
+void DrawFadeTextCentred(int centre, int y, std::string_view text, int fadeLine, int rowOffset) {
+  DrawFadeText(centre - 6 * CodePointCount(text) / 2 - 6, y, text, fadeLine, rowOffset);
 }
 
 }  // namespace lf

@@ -1,6 +1,6 @@
-// Lines of the dealer's and the lounge's screens in the 8x8 letters of
-// ocr.bmp, written in pieces (a label, a name, a number) so that no frame
-// builds a string; and text that is shown whole, without typing itself out.
+// Lines of the station's screens in the 8x8 letters of ocr.bmp, which fade
+// in letter by letter (the terminal types itself out this way), written in
+// pieces (a label, a name, a number) so that no frame builds a string.
 #pragma once
 
 #include <array>
@@ -34,8 +34,10 @@ class FadeLine {
   int letters_ = 0;
 };
 
-// A whole line of 8x8 letters, and one whose last letter stands at x = right.
+// A whole line of 8x8 letters, one whose last letter stands at x = right,
+// and one centred on `centre`.
 void DrawFadeText(int x, int y, std::string_view text, int fadeLine, int rowOffset);
 void DrawFadeTextRight(int right, int y, std::string_view text, int fadeLine, int rowOffset);
+void DrawFadeTextCentred(int centre, int y, std::string_view text, int fadeLine, int rowOffset);
 
 }  // namespace lf

@@ -8,6 +8,7 @@
 #include "display/text_set.h"
 #include "shell/game_state.h"
 #include "station/station_common.h"
+#include "station/station_lines.h"
 #include "station/station_procedures.h"
 #include "station/station_text.h"
 #include "station/terminal_layout.h"
@@ -95,7 +96,7 @@ void a_DrawLogonText() {
   // Only the first 20 lines have fade states, so only they can show.
   const int shown = count < 20 ? count : 20;
   for (int line = 1; line <= shown; ++line)
-    DrawOcrText(360, 152 - 9 * count + 9 * line, G.TermLine[line], line);
+    DrawFadeText(360, 152 - 9 * count + 9 * line, G.TermLine[line], line, 0);
   if (G.TermPrompt >= 1 && G.TermPrompt <= 499) {
     DrawButton(kNoButton, GFX.StationNo);
     DrawButton(kYesButton, GFX.StationYes);
