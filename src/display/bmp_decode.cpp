@@ -2,14 +2,10 @@
 
 #include <array>
 
+#include "shell/little_endian.h"
+
 namespace lf {
 namespace {
-
-std::uint32_t U32(const std::uint8_t* p) {
-  return static_cast<std::uint32_t>(p[0]) | static_cast<std::uint32_t>(p[1]) << 8 |
-         static_cast<std::uint32_t>(p[2]) << 16 | static_cast<std::uint32_t>(p[3]) << 24;
-}
-std::uint16_t U16(const std::uint8_t* p) { return static_cast<std::uint16_t>(p[0] | p[1] << 8); }
 
 constexpr std::size_t kFileHeader = 14;
 constexpr std::uint32_t kInfoHeader = 40;

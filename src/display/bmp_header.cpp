@@ -1,13 +1,9 @@
 #include "display/bmp_header.h"
 
+#include "shell/little_endian.h"
+
 namespace lf {
 namespace {
-
-std::uint32_t U32(const std::uint8_t* p) {
-  return static_cast<std::uint32_t>(p[0]) | static_cast<std::uint32_t>(p[1]) << 8 |
-         static_cast<std::uint32_t>(p[2]) << 16 | static_cast<std::uint32_t>(p[3]) << 24;
-}
-std::uint16_t U16(const std::uint8_t* p) { return static_cast<std::uint16_t>(p[0] | p[1] << 8); }
 
 constexpr std::size_t kFileHeader = 14;
 constexpr std::uint32_t kCoreHeader = 12;  // the old header with 16-bit sizes

@@ -3,6 +3,7 @@
 #include <cstring>
 
 #include "shell/data_file.h"
+#include "shell/little_endian.h"
 #include "shell/paths.h"
 
 namespace lf {
@@ -12,11 +13,6 @@ constexpr std::size_t kFormatRecord = 18;
 // No sound of the game comes near this; a larger file is not a sound of it.
 constexpr std::size_t kLargestSoundFile = 64u << 20;
 
-std::uint16_t U16(const std::uint8_t* p) { return static_cast<std::uint16_t>(p[0] | p[1] << 8); }
-std::uint32_t U32(const std::uint8_t* p) {
-  return static_cast<std::uint32_t>(p[0]) | static_cast<std::uint32_t>(p[1]) << 8 |
-         static_cast<std::uint32_t>(p[2]) << 16 | static_cast<std::uint32_t>(p[3]) << 24;
-}
 
 // The first position at or after `from` where `word` stands, one byte at a time.
 std::optional<std::size_t> Find(const std::vector<std::uint8_t>& bytes, std::size_t from, const char* word) {
