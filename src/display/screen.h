@@ -3,7 +3,9 @@
 #pragma once
 
 #include <cstdint>
+#include <string>
 #include <string_view>
+#include <vector>
 
 #include "display/bitmap.h"
 
@@ -19,6 +21,11 @@ void InicializeDirectDraw();
 // ProgressCount and draws the progress bar as a load under way asks.
 // A missing or unreadable file gives an empty handle.
 Bitmap LoadBitmapIntoDXS(std::string_view gamePath);
+
+// The picture in the bytes of a BMP file, converted to the screen's format
+// with colour 0 as its key; an empty handle, and `file` named as unusable,
+// when the bytes are not a picture the game can draw.
+Bitmap BitmapFromBytes(const std::vector<std::uint8_t>& bytes, const std::string& file);
 
 // Drops the run-length coding of a keyed sheet that is read a small cell at
 // a time (a font): a coded sheet is walked from its top row at every blit.
