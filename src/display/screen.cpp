@@ -96,32 +96,41 @@ void InicializeDirectDraw() {
   g_presented.assign(static_cast<std::size_t>(kScreenWidth) * kScreenHeight, 0);
 }
 
+Bitmap BitmapFromBytes(const std::vector<std::uint8_t>& bytes, const std::string& file) {
+  // The header is looked at before SDL's reader sees the file: the reader
+  // allocates whatever size a header declares.
+  if (const auto fault = BmpHeaderFault(bytes)) {
+    ReportMissing(file, *fault);
+    return {};
+  }
+  if (SDL_Surface* quick = ReadPlainBmp(bytes)) {
+    Keyed(quick, file);
+    return Bitmap::Adopt(quick);
+  }
+  SDL_Surface* raw = SDL_LoadBMP_RW(SDL_RWFromConstMem(bytes.data(), static_cast<int>(bytes.size())), 1);
+  if (!raw) {
+    ReportMissing(file, std::string("unreadable: ") + SDL_GetError());
+    return {};
+  }
+  SDL_Surface* converted = SDL_ConvertSurfaceFormat(raw, SDL_PIXELFORMAT_RGB565, 0);
+  SDL_FreeSurface(raw);
+  if (!converted) {
+    ReportMissing(file, std::string("cannot convert: ") + SDL_GetError());
+    return {};
+  }
+  Keyed(converted, file);
+  return Bitmap::Adopt(converted);
+}
+
 Bitmap LoadBitmapIntoDXS(std::string_view gamePath) {
   const std::string file = DataPath(gamePath);
   Bitmap result;
-  // The header is looked at before SDL's reader sees the file: the reader
-  // allocates whatever size a header declares.
   std::string why;
   const auto bytes = ReadDataFile(file, kLargestPictureFile, &why);
-  if (!bytes) {
+  if (!bytes)
     ReportMissing(file, why);
-  } else if (const auto fault = BmpHeaderFault(*bytes)) {
-    ReportMissing(file, *fault);
-  } else if (SDL_Surface* quick = ReadPlainBmp(*bytes)) {
-    Keyed(quick, file);
-    result = Bitmap::Adopt(quick);
-  } else if (SDL_Surface* raw = SDL_LoadBMP_RW(SDL_RWFromConstMem(bytes->data(), static_cast<int>(bytes->size())), 1)) {
-    SDL_Surface* converted = SDL_ConvertSurfaceFormat(raw, SDL_PIXELFORMAT_RGB565, 0);
-    SDL_FreeSurface(raw);
-    if (converted) {
-      Keyed(converted, file);
-      result = Bitmap::Adopt(converted);
-    } else {
-      ReportMissing(file, std::string("cannot convert: ") + SDL_GetError());
-    }
-  } else {
-    ReportMissing(file, std::string("unreadable: ") + SDL_GetError());
-  }
+  else
+    result = BitmapFromBytes(*bytes, file);
   Assign(G.ProgressCount, G.ProgressCount + 1.0);
   if (G.ProgressMode != 0 && G.ProgressCount > 5) DrawProgressBar();
   return result;

@@ -3,7 +3,9 @@
 #pragma once
 
 #include <cstdint>
+#include <string>
 #include <string_view>
+#include <vector>
 
 #include "display/bitmap.h"
 
@@ -20,6 +22,10 @@ void InicializeDirectDraw();
 // A missing or unreadable file gives an empty handle.
 Bitmap LoadBitmapIntoDXS(std::string_view gamePath);
 
+// The picture in the bytes of a BMP file, converted to the screen's format
+// with colour 0 as its key; an empty handle, and `file` named as unusable,
+// when the bytes are not a picture the game can draw.
+Bitmap BitmapFromBytes(const std::vector<std::uint8_t>& bytes, const std::string& file);
 
 // The shared source rectangle, set before every blit.
 void SetSrc(int left, int top, int right, int bottom);

@@ -32,8 +32,11 @@ bool Assign(I& target, double value) {
   static_assert(std::is_integral_v<I>);
   if (!std::isfinite(value)) return false;
   const double r = std::nearbyint(value);
+  // The bounds as doubles: the lowest is exact, the highest is not for 64
+  // bits (it rounds up to 2^63 or 2^64), so the first value past it is the
+  // limit instead.
   if (r < static_cast<double>(std::numeric_limits<I>::min()) ||
-      r > static_cast<double>(std::numeric_limits<I>::max()))
+      r >= std::ldexp(1.0, std::numeric_limits<I>::digits))
     return false;
   target = static_cast<I>(r);
   return true;

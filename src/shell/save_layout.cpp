@@ -351,16 +351,22 @@ PositionTexts WritePosition(Game& g) {
   return out;
 }
 
+std::string ReadPositionFile(Game& g, int file, std::string_view text) {
+  SaveReader r(text);
+  try {
+    FileFields(file, r, g);
+  } catch (const SaveFormatError& e) {
+    return UpperName(file) + " " + e.what();
+  } catch (const StatementFailed&) {
+    return UpperName(file) + " IS OUT OF BOUNDS";
+  }
+  return {};
+}
+
 std::string ReadPosition(Game& g, const PositionTexts& texts) {
   for (int f = 0; f < kSaveFileCount; ++f) {
-    SaveReader r(texts[static_cast<std::size_t>(f)]);
-    try {
-      FileFields(f, r, g);
-    } catch (const SaveFormatError& e) {
-      return UpperName(f) + " " + e.what();
-    } catch (const StatementFailed&) {
-      return UpperName(f) + " IS OUT OF BOUNDS";
-    }
+    std::string problem = ReadPositionFile(g, f, texts[static_cast<std::size_t>(f)]);
+    if (!problem.empty()) return problem;
   }
   // The bodies carry their names beside the name table, as a new quadrant
   // gives them.

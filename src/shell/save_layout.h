@@ -26,4 +26,9 @@ PositionTexts WritePosition(Game& g);
 // partly overwritten, so callers read into a copy.
 std::string ReadPosition(Game& g, const PositionTexts& texts);
 
+// Reads one file (0..15, in the order above) into `g`: empty when it read
+// whole, else what was wrong. A file's reader takes nothing from `g` but what
+// the same file set before it.
+std::string ReadPositionFile(Game& g, int file, std::string_view text);
+
 }  // namespace lf

@@ -40,6 +40,28 @@ TEST(Assignment, SixteenBitOverflowIsSkipped) {
   EXPECT_FALSE(Assign(v, std::nan("")));
 }
 
+// The largest 64-bit values have no exact double: the bound itself must
+// not slip through to a conversion that overflows.
+TEST(Assignment, SixtyFourBitBoundsAreExact) {
+  std::int64_t s = 7;
+  EXPECT_FALSE(Assign(s, 9223372036854775808.0));  // 2^63
+  EXPECT_EQ(s, 7);
+  EXPECT_TRUE(Assign(s, 9223372036854774784.0));  // the largest double below it
+  EXPECT_EQ(s, 9223372036854774784LL);
+  EXPECT_TRUE(Assign(s, -9223372036854775808.0));
+  EXPECT_EQ(s, INT64_MIN);
+  std::uint64_t u = 7;
+  EXPECT_FALSE(Assign(u, 18446744073709551616.0));  // 2^64
+  EXPECT_FALSE(Assign(u, -1.0));
+  EXPECT_EQ(u, 7u);
+  EXPECT_TRUE(Assign(u, 18446744073709549568.0));
+  EXPECT_EQ(u, 18446744073709549568ull);
+  std::uint8_t b = 7;
+  EXPECT_FALSE(Assign(b, 256.0));
+  EXPECT_TRUE(Assign(b, 255.0));
+  EXPECT_EQ(b, 255);
+}
+
 TEST(Tables, IndexOutOfBoundsChangesNothing) {
   Table<int, 5> t{};
   t[5] = 3;

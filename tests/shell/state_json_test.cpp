@@ -46,6 +46,10 @@ TEST(StateRestore, BadInputIsRefusedAndChangesNothing) {
       R"({"Cash": 1, "Planet": [{"Wide": 3}]})",
       R"({"Cash": "lots"})",
       R"({"Cash": 1, "StatusSlot": 4})",
+      // Just past the 64-bit fields, written as reals.
+      R"({"Cash": 1, "Frame": 9223372036854775808.0})",
+      R"({"Cash": 1, "RandomState": 18446744073709551616.0})",
+      R"({"Cash": 1, "RandomState": -1.0})",
   };
   for (const char* text : bad) {
     EXPECT_THROW(RestoreState(G, nlohmann::json::parse(text)), RestoreError) << text;
