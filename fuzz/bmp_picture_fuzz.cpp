@@ -1,12 +1,13 @@
-// A picture file as the display reads it: the header check, SDL's reader,
-// the conversion to the screen's format, and blits of the whole picture and
-// of a corner, keyed (run-length coded) and plain.
+// A picture file as the display reads it: the header check, the quick
+// reader of the game's own kinds (8-bit plain or run-length coded, 24-bit)
+// or else SDL's reader and the conversion to the screen's format, and blits
+// of the whole picture and of a corner, keyed (run-length coded) and plain.
 //
 // The first byte of the input picks how the rest is read. Even: the bytes
 // stand as they are. Odd: the sizes in the header are first made small and
 // the pixel offset made to fall inside the file, so that damaged palettes,
 // masks and pixel runs reach the reader and the conversion instead of
-// stopping at the header check (the reader is not instrumented, so the
+// stopping at the header check (SDL's reader is not instrumented, so the
 // fuzzer cannot find its way there by coverage alone).
 #include <cstddef>
 #include <cstdint>
