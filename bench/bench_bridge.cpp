@@ -2,6 +2,8 @@
 // bridge set loaded when LANEFARER_DATA names a data folder.
 #include <benchmark/benchmark.h>
 
+#include "bridge_setup.h"
+
 #include <cstdlib>
 
 #include "bridge/bridge_procedures.h"
@@ -14,43 +16,6 @@
 #include "universe/quadrant.h"
 
 namespace {
-
-void SetUpBridge() {
-  using namespace lf;
-  ResetGame();
-  InicializeDirectDraw();
-  if (const char* data = std::getenv("LANEFARER_DATA")) {
-    SetDataFolder(data);
-    LoadKeptBitmaps();
-    LoadMainBitmaps();
-  }
-  DefineShipSpecs();
-  FillBridgeButtons();
-  FillOfficerLines();
-  RandomizeQuad(1);
-  G.TimeStep = 0.1;
-  G.ShowGrid = G.ShowSensorRange = True;
-  G.SensorRange = 100;
-  G.SensorLevel = G.SensorSetting = 100;
-  G.PropulsionLevel = G.PropulsionSetting = 200;
-  G.HardpointCount = 5;
-  const int fit[5][2] = {{4, 1}, {5, 1}, {6, 1}, {7, 1}, {1, 1}};
-  for (int i = 0; i < 5; ++i) {
-    G.FittedComp[i + 1][1] = static_cast<std::int16_t>(fit[i][0]);
-    G.FittedComp[i + 1][2] = static_cast<std::int16_t>(fit[i][1]);
-    G.FittedHealth[i + 1] = 300;
-  }
-  for (int i = 1; i <= G.PlanetCount; ++i) G.Planet[i].Known = True;
-  G.ViewX = G.ShipX;
-  G.ViewY = static_cast<std::int16_t>(G.ShipY);
-  G.DestX = G.ShipX + 300;
-  G.DestY = G.ShipY + 200;
-  G.PageOpen[3] = 1;
-  for (int b = 1; b <= 10; ++b) G.BridgeButton[3][b].Visible = True;
-  G.BridgeButton[3][3].State = 1;
-  DistributeEnergy();
-  CheckDirection();
-}
 
 void BM_BridgeFrame(benchmark::State& state) {
   using namespace lf;
