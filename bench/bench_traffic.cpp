@@ -35,31 +35,10 @@ void BM_BridgeFrameWithTraffic(benchmark::State& state) {
   using namespace lf;
   SetUpBridgeWithTraffic();
   for (auto _ : state) {
-    CheckStopAvailability();
-    CheckMissingComponents();
-    UpdateEnergy();
-    DrawNebulas();
-    DrawQuadBack();
-    DrawStars();
-    DrawGrid();
-    DrawSensorRange();
-    DrawPlans();
-    DrawToolsIcons();
-    DrawShip();
-    DrawOtherShips();
-    DrawDistance();
-    DrawDestination();
-    DrawCoords();
-    DrawButtons();
-    CheckMouseOverButton();
-    CheckScroll();
-    DrawFaces();
-    CheckDistance();
-    DrawHealth();
-    DrawHailView();
-    DrawHailMessages();
-    CheckPowerOverload();
-    G.MessagePending = G.QuestionPending = False;
+    DrawBridgeFrame(true, [] {
+      DrawHailView();
+      DrawHailMessages();
+    });
     benchmark::DoNotOptimize(BackPixel(320, 145));
   }
 }

@@ -14,6 +14,7 @@
 #include "universe/bridge_buttons.h"
 #include "universe/new_game.h"
 #include "universe/quadrant.h"
+#include "universe/universe_procedures.h"
 
 inline void SetUpBridge() {
   using namespace lf;
@@ -50,4 +51,34 @@ inline void SetUpBridge() {
   G.BridgeButton[3][3].State = 1;
   DistributeEnergy();
   CheckDirection();
+}
+
+// The drawing and updates of one bridge frame, in the frame's order, with
+// the other ships drawn or not and the lower panel drawn by `panel`.
+inline void DrawBridgeFrame(bool otherShips, void (*panel)()) {
+  using namespace lf;
+  CheckStopAvailability();
+  CheckMissingComponents();
+  UpdateEnergy();
+  DrawNebulas();
+  DrawQuadBack();
+  DrawStars();
+  DrawGrid();
+  DrawSensorRange();
+  DrawPlans();
+  DrawToolsIcons();
+  DrawShip();
+  if (otherShips) DrawOtherShips();
+  DrawDistance();
+  DrawDestination();
+  DrawCoords();
+  DrawButtons();
+  CheckMouseOverButton();
+  CheckScroll();
+  DrawFaces();
+  CheckDistance();
+  DrawHealth();
+  panel();
+  CheckPowerOverload();
+  G.MessagePending = G.QuestionPending = False;
 }
